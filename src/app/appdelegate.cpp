@@ -1,0 +1,49 @@
+#include "app/appdelegate.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QTimer>
+
+#include "app/documenteditor.h"
+#include "app/mainwindow.h"
+
+namespace tamo {
+
+AppDelegate::AppDelegate(const Profile& profile)
+    : profile_(profile),
+      settings_(profile.settingsFile),
+      session_(profile, settings_, clock_, prompter_),
+      window_(std::make_unique<MainWindow>(session_))
+{
+    prompter_.setParentWindow(window_.get());
+    AppSession::Hooks& hooks = session_.hooks();
+    hooks.commitEditing = [this] { return window_->editor()->commitEditing(); };
+    hooks.relaunch = [] {
+        // Start again on the moved store once this process has let go of the old one.
+        QProcess::startDetached(QCoreApplication::applicationFilePath(),
+                                QCoreApplication::arguments().mid(1));
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    };
+    window_->setCloseGuard([this] { return requestQuit(); });
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::start()
+{
+    window_->restoreLayout();
+    window_->show();
+    session_.managedObjectContext();
+    session_.applicationDidFinishLaunching();
+}
+
+bool AppDelegate::requestQuit()
+{
+    if (session_.applicationShouldTerminate() == AppSession::TerminateReply::Cancel) {
+        return false;
+    }
+    session_.applicationWillTerminate();
+    return true;
+}
+
+}  // namespace tamo

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+
+#include "model/context.h"
+#include "model/documentlist.h"
+#include "platform/clock.h"
+#include "platform/profile.h"
+#include "platform/prompter.h"
+#include "settings/settings.h"
+
+namespace tamo {
+
+// What the operations of every area share: the profile's folders, the settings, the clock, the
+// prompts, the one object context and the arranged document list. It also runs the store's
+// life: opening it on first use, saving, moving it to another folder, start-up and quit.
+class AppSession : public QObject {
+    Q_OBJECT
+
+public:
+    enum class TerminateReply { Now, Cancel };
+
+    // Filled in by the interface (or by tests) to reach what only it knows or can do.
+    struct Hooks {
+        std::function<bool()> commitEditing;       // false when a pending edit is invalid
+        std::function<int()> selectedDesignIndex;  // position of the selected design
+        std::function<bool()> completeBackup;      // before the store moves; false stops
+        std::function<void()> loadBuiltInDesigns;  // once per installation
+        std::function<void()> showSetupAssistant;  // very first start
+        std::function<void()> showEinvoiceNotice;  // once
+        std::function<void()> relaunch;            // after the store moved
+    };
+
+    AppSession(Profile profile, Settings& settings, const Clock& clock, Prompter& prompter);
+    ~AppSession() override;
+
+    const Profile& profile() const { return profile_; }
+    Settings& settings() const { return settings_; }
+    const Clock& clock() const { return clock_; }
+    Prompter& prompter() const { return prompter_; }
+    DocumentList& documents() { return documents_; }
+    Hooks& hooks() { return hooks_; }
+
+    QString applicationFilesDirectory() const { return profile_.supportFolder; }
+    QString applicationDataDirectory() const { return profile_.dataFolder; }
+    // The one context, opened on first use; nullptr when the store cannot be opened (the reason
+    // has been presented).
+    Context* managedObjectContext();
+    Context* context() const { return context_.get(); }
+
+    // Commits pending edits and saves when something changed. A failure is presented.
+    bool saveContext();
+    void saveAction() { saveContext(); }
+    void undo();
+    void redo();
+
+    // The user chose another store folder: back up, move the store there and relaunch.
+    bool customPathChanged();
+
+    void applicationDidFinishLaunching();
+    TerminateReply applicationShouldTerminate();
+    void applicationWillTerminate();
+
+signals:
+    void contextChanged(tamo::Context* context);
+
+private:
+    bool commitEditing() const { return !hooks_.commitEditing || hooks_.commitEditing(); }
+    void rememberSelectedDesign();
+
+    Profile profile_;
+    Settings& settings_;
+    const Clock& clock_;
+    Prompter& prompter_;
+    Hooks hooks_;
+    std::unique_ptr<Context> context_;
+    bool openAttempted_ = false;
+    DocumentList documents_;
+};
+
+}  // namespace tamo

@@ -1,0 +1,153 @@
+#include "settings/settings.h"
+
+#include <QLocale>
+#include <array>
+
+namespace tamo {
+
+namespace {
+#define TAMO_LIST_ENTRY(name, type) key::name,
+constexpr std::array kKeys{TAMO_SETTING_LIST(TAMO_LIST_ENTRY) key::update_1_3, key::update_2_1,
+                           key::update_E_Tamo_0_4, key::loadEvoiceAlert_0_1};
+#undef TAMO_LIST_ENTRY
+
+QString name(const SettingKey& key)
+{
+    return QString::fromLatin1(key.name);
+}
+}  // namespace
+
+std::span<const SettingKey> allSettingKeys()
+{
+    return kKeys;
+}
+
+const SettingKey* findSettingKey(std::string_view wanted)
+{
+    for (const SettingKey& k : kKeys) {
+        if (wanted == k.name) {
+            return &k;
+        }
+    }
+    return nullptr;
+}
+
+Settings::Settings(const QString& file) : store_(file, QSettings::IniFormat) {}
+
+bool Settings::contains(const SettingKey& key) const
+{
+    return store_.contains(name(key));
+}
+
+QVariant Settings::value(const SettingKey& key) const
+{
+    return store_.value(name(key));
+}
+
+QString Settings::string(const SettingKey& key) const
+{
+    return value(key).toString();
+}
+
+bool Settings::boolean(const SettingKey& key) const
+{
+    return value(key).toBool();
+}
+
+int Settings::integer(const SettingKey& key) const
+{
+    return value(key).toInt();
+}
+
+double Settings::real(const SettingKey& key) const
+{
+    return value(key).toDouble();
+}
+
+QDateTime Settings::date(const SettingKey& key) const
+{
+    return value(key).toDateTime();
+}
+
+void Settings::set(const SettingKey& key, const QVariant& value)
+{
+    store_.setValue(name(key), value);
+    store_.sync();
+}
+
+void Settings::remove(const SettingKey& key)
+{
+    store_.remove(name(key));
+    store_.sync();
+}
+
+std::optional<QVariant> Settings::fromText(const SettingKey& key, const QString& text)
+{
+    const QLocale c = QLocale::c();
+    bool ok = true;
+    switch (key.type) {
+    case SettingType::Boolean:
+        if (text == u"true" || text == u"1" || text == u"yes") {
+            return QVariant(true);
+        }
+        if (text == u"false" || text == u"0" || text == u"no") {
+            return QVariant(false);
+        }
+        return std::nullopt;
+    case SettingType::Integer: {
+        const int v = c.toInt(text, &ok);
+        return ok ? std::optional(QVariant(v)) : std::nullopt;
+    }
+    case SettingType::Real: {
+        const double v = c.toDouble(text, &ok);
+        return ok ? std::optional(QVariant(v)) : std::nullopt;
+    }
+    case SettingType::Number: {
+        if (const int i = c.toInt(text, &ok); ok) {
+            return QVariant(i);
+        }
+        const double v = c.toDouble(text, &ok);
+        return ok ? std::optional(QVariant(v)) : std::nullopt;
+    }
+    case SettingType::Date: {
+        const QDateTime d = QDateTime::fromString(text, Qt::ISODate);
+        return d.isValid() ? std::optional(QVariant(d)) : std::nullopt;
+    }
+    case SettingType::Text:
+    case SettingType::Path:
+    case SettingType::Object:
+        return QVariant(text);
+    }
+    return std::nullopt;
+}
+
+QString Settings::toText(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QDateTime) {
+        return value.toDateTime().toString(Qt::ISODate);
+    }
+    return value.toString();
+}
+
+void applyOneTimeUpdates(Settings& settings)
+{
+    if (!settings.boolean(key::update_1_3)) {
+        settings.set(key::itemSortOrder, 1);
+        settings.set(key::update_1_3, true);
+    }
+    if (!settings.boolean(key::update_2_1)) {
+        settings.set(key::beforeTaxesBool, true);
+        settings.set(key::update_2_1, true);
+    }
+    if (!settings.boolean(key::update_E_Tamo_0_4)) {
+        settings.set(key::prefsSupplierTaxSchemeBool, true);
+        settings.set(key::prefsEvoiceDefaultCurrencyCodeBool, true);
+        settings.set(key::prefsSupplierCountryCodeBool, true);
+        settings.set(key::beforeTaxesBool, true);
+        settings.set(key::prefsSupplierTaxScheme, QStringLiteral("VAT"));
+        settings.set(key::prefsSupplierCurrency, QStringLiteral("EUR"));
+        settings.set(key::update_E_Tamo_0_4, true);
+    }
+}
+
+}  // namespace tamo

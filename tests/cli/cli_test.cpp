@@ -1,0 +1,113 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "cli/commandline.h"
+#include "support/testsupport.h"
+
+using namespace tamo;
+using namespace tamo::test;
+
+namespace {
+
+struct Outcome {
+    int code;
+    QString out;
+    QString err;
+};
+
+class CommandLineTest : public ::testing::Test {
+protected:
+    TempProfile dir;
+
+    Outcome tamo(const QStringList& words)
+    {
+        QString out, err;
+        QTextStream o(&out), e(&err);
+        const int code = runCommand(
+            parseInvocation(QStringList{u"tamo"_qs, u"--store"_qs, dir.path(u"store"_qs)} + words),
+            o, e);
+        o.flush();
+        e.flush();
+        return {code, out, err};
+    }
+};
+
+TEST_F(CommandLineTest, GeneratedDocumentsAreListedNewestFirst)
+{
+    const Outcome generated = tamo({u"generate-sample"_qs, u"--documents"_qs, u"40"_qs,
+                                    u"--items-per-document"_qs, u"3"_qs, u"--clients"_qs, u"6"_qs});
+    ASSERT_EQ(generated.code, 0) << generated.err.toStdString();
+    EXPECT_EQ(generated.out, u"Generated 40 documents with 120 lines and 6 clients.\n");
+
+    const Outcome listed = tamo({u"list"_qs, u"--json"_qs});
+    ASSERT_EQ(listed.code, 0) << listed.err.toStdString();
+    const QJsonArray documents = QJsonDocument::fromJson(listed.out.toUtf8()).array();
+    ASSERT_EQ(documents.size(), 40);
+    QString previous = u"9999"_qs;
+    for (const QJsonValue& v : documents) {
+        const QJsonObject d = v.toObject();
+        for (const char* field : {"uniqueID", "kind", "status", "number", "title", "customerName",
+                                  "date", "due", "amount"}) {
+            EXPECT_TRUE(d.contains(QLatin1String(field))) << field;
+        }
+        EXPECT_LE(d[u"date"].toString(), previous);
+        previous = d[u"date"].toString();
+    }
+
+    const Outcome table = tamo({u"list"_qs});
+    EXPECT_EQ(table.out.count(u'\n'), 41);  // a heading and a row per document
+    EXPECT_TRUE(table.out.startsWith(u"Status"));
+}
+
+TEST_F(CommandLineTest, SettingsAreReadAndWrittenInTheirType)
+{
+    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"tax1Rate"_qs}).out, u"\n");
+    EXPECT_EQ(tamo({u"settings"_qs, u"set"_qs, u"tax1Rate"_qs, u"0.19"_qs}).code, 0);
+    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"tax1Rate"_qs}).out, u"0.19\n");
+    EXPECT_TRUE(readFile(dir.path(u"store/Tamo.conf"_qs)).contains(u"tax1Rate=0.19"));
+}
+
+TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
+{
+    struct Case {
+        QStringList words;
+        int code;
+        const char16_t* message;
+    };
+    const Case cases[] = {
+        {{u"frobnicate"_qs}, 2, u"tamo: unknown command \"frobnicate\""},
+        {{u"settings"_qs, u"get"_qs, u"noSuchKey"_qs},
+         1,
+         u"tamo: there is no setting named noSuchKey"},
+        {{u"settings"_qs, u"set"_qs, u"invHaveNumber"_qs, u"perhaps"_qs},
+         1,
+         u"tamo: perhaps is not a valid value for invHaveNumber"},
+        {{u"generate-sample"_qs, u"--documents"_qs, u"many"_qs},
+         2,
+         u"tamo: generate-sample: --documents needs a whole number"},
+        {{u"list"_qs, u"--xml"_qs}, 2, u"tamo: list: unknown option --xml"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.words.join(u' ').toStdString());
+        const Outcome run = tamo(c.words);
+        EXPECT_EQ(run.code, c.code);
+        EXPECT_EQ(run.err.section(u'\n', 0, 0), QString::fromUtf16(c.message));
+    }
+}
+
+TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsReportedNotReplaced)
+{
+    QDir().mkpath(dir.path(u"store"_qs));
+    QFile file(dir.path(u"store/Tamo.zqdb"_qs));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(4096, 'x'));
+    file.close();
+    const Outcome run = tamo({u"list"_qs});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_TRUE(run.err.contains(u"file is not a database")) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(u"Failed to initialize the store"));
+    EXPECT_EQ(QFileInfo(file).size(), 4096);
+}
+
+}  // namespace

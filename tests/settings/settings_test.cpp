@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+#include "settings/settings.h"
+
+using namespace tamo;
+
+namespace {
+
+class SettingsTest : public ::testing::Test {
+protected:
+    QTemporaryDir dir;
+    QString file = dir.filePath(QStringLiteral("Tamo.conf"));
+    Settings settings{file};
+};
+
+TEST_F(SettingsTest, AbsentKeysReadAsEmptyFalseOrZero)
+{
+    EXPECT_FALSE(settings.contains(key::prefsName));
+    EXPECT_TRUE(settings.string(key::prefsName).isEmpty());
+    EXPECT_FALSE(settings.boolean(key::invHaveNumber));
+    EXPECT_EQ(settings.integer(key::invCount), 0);
+    EXPECT_EQ(settings.real(key::tax1Rate), 0.0);
+    EXPECT_FALSE(settings.date(key::reportDateL).isValid());
+}
+
+TEST_F(SettingsTest, ValuesReachTheFileAtOnceAndReadBackExactly)
+{
+    settings.set(key::tax1Rate, 0.19);
+    settings.set(key::prefsName, QStringLiteral("Anna Schmidt, Grafikdesign"));
+    settings.set(key::reportDateL, QDateTime(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC));
+    Settings other(file);  // another reader, as another process would be
+    EXPECT_EQ(other.real(key::tax1Rate), 0.19);
+    EXPECT_EQ(other.string(key::prefsName), u"Anna Schmidt, Grafikdesign");
+    EXPECT_EQ(other.date(key::reportDateL), QDateTime(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC));
+}
+
+TEST_F(SettingsTest, OneTimeUpdatesWriteTheirValuesOnce)
+{
+    applyOneTimeUpdates(settings);
+    EXPECT_EQ(settings.integer(key::itemSortOrder), 1);
+    EXPECT_TRUE(settings.boolean(key::beforeTaxesBool));
+    EXPECT_TRUE(settings.boolean(key::prefsSupplierTaxSchemeBool));
+    EXPECT_TRUE(settings.boolean(key::prefsEvoiceDefaultCurrencyCodeBool));
+    EXPECT_TRUE(settings.boolean(key::prefsSupplierCountryCodeBool));
+    EXPECT_EQ(settings.string(key::prefsSupplierTaxScheme), u"VAT");
+    EXPECT_EQ(settings.string(key::prefsSupplierCurrency), u"EUR");
+
+    // The user's later choices survive the next start.
+    settings.set(key::itemSortOrder, 3);
+    settings.set(key::beforeTaxesBool, false);
+    settings.set(key::prefsSupplierCurrency, QStringLiteral("CHF"));
+    applyOneTimeUpdates(settings);
+    EXPECT_EQ(settings.integer(key::itemSortOrder), 3);
+    EXPECT_FALSE(settings.boolean(key::beforeTaxesBool));
+    EXPECT_EQ(settings.string(key::prefsSupplierCurrency), u"CHF");
+}
+
+TEST_F(SettingsTest, FlagsSetByHandKeepTheUpdatesFromRunning)
+{
+    for (const SettingKey& flag : {key::update_1_3, key::update_2_1, key::update_E_Tamo_0_4}) {
+        settings.set(flag, true);
+    }
+    applyOneTimeUpdates(settings);
+    EXPECT_FALSE(settings.contains(key::itemSortOrder));
+    EXPECT_FALSE(settings.contains(key::beforeTaxesBool));
+    EXPECT_FALSE(settings.contains(key::prefsSupplierCurrency));
+}
+
+TEST(SettingKeysTest, TextIsReadInTheKeysType)
+{
+    struct Case {
+        const char* key;
+        const char16_t* text;
+        QVariant expected;  // invalid: refused
+    };
+    const Case cases[] = {
+        {"invHaveNumber", u"true", true},
+        {"invHaveNumber", u"0", false},
+        {"invHaveNumber", u"maybe", {}},
+        {"tax1Rate", u"0.07", 0.07},
+        {"tax1Rate", u"7%", {}},
+        {"itemSortOrder", u"2", 2},
+        {"invDefaultDueDate", u"3", 3},
+        {"invCount", u"12.5", 12.5},
+        {"prefsName", u"12", QStringLiteral("12")},
+        {"reportDateL", u"2026-02-01T00:00:00Z",
+         QDateTime(QDate(2026, 2, 1), QTime(0, 0), Qt::UTC)},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.key);
+        const SettingKey* key = findSettingKey(c.key);
+        ASSERT_NE(key, nullptr);
+        const auto value = Settings::fromText(*key, QString::fromUtf16(c.text));
+        EXPECT_EQ(value.has_value(), c.expected.isValid());
+        if (value && c.expected.isValid()) {
+            EXPECT_EQ(*value, c.expected);
+        }
+    }
+    EXPECT_EQ(findSettingKey("noSuchSetting"), nullptr);
+    EXPECT_NE(findSettingKey("update_E-Tamo_0.4"), nullptr);
+}
+
+TEST(SettingKeysTest, NamesAreUnique)
+{
+    QSet<QString> names;
+    for (const SettingKey& k : allSettingKeys()) {
+        EXPECT_FALSE(names.contains(QString::fromLatin1(k.name))) << k.name;
+        names.insert(QString::fromLatin1(k.name));
+    }
+}
+
+}  // namespace

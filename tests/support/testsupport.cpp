@@ -1,0 +1,55 @@
+#include "support/testsupport.h"
+
+#include <QFile>
+
+#include "model/sqlite.h"
+
+namespace tamo::test {
+
+TempProfile::TempProfile()
+    : profile_(Profile::inDirectory(dir_.filePath(QStringLiteral("profile"))))
+{
+}
+
+std::unique_ptr<Context> openContext(const QString& path)
+{
+    auto context = Context::open(path);
+    EXPECT_TRUE(context.has_value()) << (context ? "" : context.error().text().toStdString());
+    return context ? std::move(*context) : nullptr;
+}
+
+void execSql(const QString& path, const QString& sql)
+{
+    auto db = sql::Database::open(path, true);
+    ASSERT_TRUE(db.has_value()) << db.error().text().toStdString();
+    auto r = db->exec(sql);
+    ASSERT_TRUE(r.has_value()) << r.error().text().toStdString();
+}
+
+QString queryText(const QString& path, const QString& sql)
+{
+    auto db = sql::Database::open(path, false);
+    if (!db) {
+        return QStringLiteral("<%1>").arg(db.error().text());
+    }
+    auto s = db->prepare(sql);
+    if (!s) {
+        return QStringLiteral("<%1>").arg(s.error().text());
+    }
+    return s->step() ? s->text(0) : QString();
+}
+
+QString readFile(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+}  // namespace tamo::test
+
+QT_BEGIN_NAMESPACE
+void PrintTo(const QString& s, std::ostream* os)
+{
+    *os << '"' << s.toStdString() << '"';
+}
+QT_END_NAMESPACE

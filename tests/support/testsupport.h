@@ -1,0 +1,39 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "model/context.h"
+#include "platform/profile.h"
+
+namespace tamo::test {
+
+// A profile in a fresh temporary folder, removed after the test.
+class TempProfile {
+public:
+    TempProfile();
+    const Profile& profile() const { return profile_; }
+    QString path(const QString& name) const { return dir_.filePath(name); }
+    QString storePath() const { return profile_.supportFolder + QStringLiteral("/Tamo.zqdb"); }
+
+private:
+    QTemporaryDir dir_;
+    Profile profile_;
+};
+
+// Opens a store file, failing the test when it cannot.
+std::unique_ptr<Context> openContext(const QString& path);
+
+// Runs SQL on a store file through a separate connection, as another program would.
+void execSql(const QString& path, const QString& sql);
+QString queryText(const QString& path, const QString& sql);
+
+QString readFile(const QString& path);
+
+}  // namespace tamo::test
+
+// Lets GoogleTest print Qt strings in failure messages.
+QT_BEGIN_NAMESPACE
+void PrintTo(const QString& s, std::ostream* os);
+QT_END_NAMESPACE
