@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QLocale>
 
+#include "cli/commands.h"
 #include "cli/consoleprompter.h"
 #include "cli/samplegenerator.h"
 #include "model/appsession.h"
@@ -13,14 +14,6 @@
 namespace tamo {
 
 namespace {
-
-constexpr int kUsageError = 2;
-
-// A command's failure: one line for the error stream and the exit code.
-struct Failure {
-    QString message;
-    int code = 1;
-};
 
 QString dateText(const QDateTime& date)
 {
@@ -32,7 +25,9 @@ QJsonValue jsonDate(const QDateTime& date)
     return date.isValid() ? QJsonValue(date.toUTC().toString(Qt::ISODateWithMs)) : QJsonValue();
 }
 
-std::optional<Failure> listDocuments(AppSession& session, const QStringList& args, QTextStream& out)
+}  // namespace
+
+std::optional<Failure> listCommand(AppSession& session, const QStringList& args, QTextStream& out)
 {
     const bool json = args.contains(QStringLiteral("--json"));
     for (const QString& a : args) {
@@ -140,6 +135,21 @@ std::optional<Failure> generateSampleCommand(AppSession& session, const QStringL
     return std::nullopt;
 }
 
+namespace {
+
+// Every command: its name, whether it needs the store, and what runs it.
+struct CommandEntry {
+    const char16_t* name;
+    bool needsStore;
+    Command run;
+};
+
+const CommandEntry kCommands[] = {
+    {u"list", true, listCommand},
+    {u"settings", false, settingsCommand},
+    {u"generate-sample", true, generateSampleCommand},
+};
+
 }  // namespace
 
 QString usage()
@@ -200,15 +210,13 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         out << usage();
         return 0;
     }
-    using Command = std::optional<Failure> (*)(AppSession&, const QStringList&, QTextStream&);
-    Command command = nullptr;
-    if (name == u"list") {
-        command = listDocuments;
-    } else if (name == u"settings") {
-        command = settingsCommand;
-    } else if (name == u"generate-sample") {
-        command = generateSampleCommand;
-    } else {
+    const CommandEntry* command = nullptr;
+    for (const CommandEntry& entry : kCommands) {
+        if (name == QStringView(entry.name)) {
+            command = &entry;
+        }
+    }
+    if (!command) {
         return report(QStringLiteral("unknown command \"%1\"\n%2").arg(name, usage()), kUsageError);
     }
 
@@ -218,10 +226,10 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     SystemClock clock;
     ConsolePrompter prompter(err, inv.assumeYes);
     AppSession session(profile, settings, clock, prompter);
-    if (name != u"settings" && !session.managedObjectContext()) {
+    if (command->needsStore && !session.managedObjectContext()) {
         return 1;  // the prompter has said why
     }
-    if (auto failure = command(session, args, out)) {
+    if (auto failure = command->run(session, args, out)) {
         return report(failure->message, failure->code);
     }
     out.flush();
