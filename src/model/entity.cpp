@@ -10,26 +10,24 @@ EntityDescription::EntityDescription(std::string name, std::vector<AttributeDesc
       attributes_(std::move(attributes)),
       relationships_(std::move(relationships))
 {
+    for (size_t i = 0; i < attributes_.size(); ++i) {
+        attributeIndex_.emplace(attributes_[i].key, int(i));
+    }
+    for (size_t i = 0; i < relationships_.size(); ++i) {
+        relationshipIndex_.emplace(relationships_[i].key, int(i));
+    }
 }
 
 int EntityDescription::attributeIndex(std::string_view key) const
 {
-    for (size_t i = 0; i < attributes_.size(); ++i) {
-        if (attributes_[i].key == key) {
-            return int(i);
-        }
-    }
-    return -1;
+    const auto it = attributeIndex_.find(key);
+    return it == attributeIndex_.end() ? -1 : it->second;
 }
 
 int EntityDescription::relationshipIndex(std::string_view key) const
 {
-    for (size_t i = 0; i < relationships_.size(); ++i) {
-        if (relationships_[i].key == key) {
-            return int(i);
-        }
-    }
-    return -1;
+    const auto it = relationshipIndex_.find(key);
+    return it == relationshipIndex_.end() ? -1 : it->second;
 }
 
 namespace {

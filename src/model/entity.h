@@ -3,6 +3,7 @@
 #include <QString>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "model/value.h"
@@ -41,9 +42,17 @@ public:
     int relationshipIndex(std::string_view key) const;
 
 private:
+    struct KeyHash {
+        using is_transparent = void;
+        size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
+    };
+    using Index = std::unordered_map<std::string, int, KeyHash, std::equal_to<>>;
+
     std::string name_;
     std::vector<AttributeDescription> attributes_;
     std::vector<RelationshipDescription> relationships_;
+    Index attributeIndex_;
+    Index relationshipIndex_;
 };
 
 // The entities of Tamo's store.
