@@ -7,10 +7,16 @@
 #include "app/documenteditor.h"
 #include "app/mainwindow.h"
 
+// Resources compiled into a static library are registered by hand, or the linker drops them.
+static void initResources()
+{
+    Q_INIT_RESOURCE(stamps);
+}
+
 namespace tamo {
 
 AppDelegate::AppDelegate(const Profile& profile)
-    : profile_(profile),
+    : profile_((initResources(), profile)),
       settings_(profile.settingsFile),
       session_(profile, settings_, clock_, prompter_),
       window_(std::make_unique<MainWindow>(session_))
@@ -34,6 +40,10 @@ void AppDelegate::start()
     window_->restoreLayout();
     window_->show();
     session_.managedObjectContext();
+    DocumentList& documents = session_.documents();
+    if (documents.size() > 0) {
+        documents.setSelection({documents.at(0)});
+    }
     session_.applicationDidFinishLaunching();
 }
 

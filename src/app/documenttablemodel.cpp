@@ -44,7 +44,7 @@ QIcon DocumentTableModel::stamp(const QString& name) const
 {
     auto it = stamps_.find(name);
     if (it == stamps_.end()) {
-        it = stamps_.insert(name, QIcon(QStringLiteral(":/stamps/") + name));
+        it = stamps_.insert(name, QIcon(QStringLiteral(":/stamps/%1.svg").arg(name)));
     }
     return *it;
 }

@@ -51,6 +51,14 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setSectionResizeMode(DocumentTableModel::Stamp, QHeaderView::Fixed);
     table_->horizontalHeader()->resizeSection(DocumentTableModel::Stamp, 28);
+    for (auto [column, width] : {std::pair{DocumentTableModel::Number, 120},
+                                 {DocumentTableModel::Title, 90},
+                                 {DocumentTableModel::Date, 100},
+                                 {DocumentTableModel::Due, 100},
+                                 {DocumentTableModel::Amount, 100},
+                                 {DocumentTableModel::Currency, 70}}) {
+        table_->horizontalHeader()->resizeSection(column, width);
+    }
     table_->horizontalHeader()->setSectionResizeMode(DocumentTableModel::Client,
                                                      QHeaderView::Stretch);
     table_->setIconSize(QSize(16, 16));
@@ -66,6 +74,7 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     splitter->addWidget(editor_);
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
+    splitter->setSizes({760, 420});
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
     statusBar()->addPermanentWidget(summary_);
@@ -75,7 +84,7 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     DocumentList& list = session_.documents();
     connect(&list, &DocumentList::arrangementChanged, this, [this] {
         syncSelectionFromList();
-        summary_->setText(tr("%n document(s)", nullptr, session_.documents().size()));
+        updateSummary();
     });
     connect(&list, &DocumentList::selectionChanged, this, [this] {
         syncSelectionFromList();
@@ -134,8 +143,14 @@ void MainWindow::contextChanged()
                 Qt::UniqueConnection);
         connect(context, &Context::didSave, this, &MainWindow::updateActions, Qt::UniqueConnection);
     }
-    summary_->setText(tr("%n document(s)", nullptr, session_.documents().size()));
+    updateSummary();
     updateActions();
+}
+
+void MainWindow::updateSummary()
+{
+    const int count = session_.documents().size();
+    summary_->setText(count == 1 ? tr("1 document") : tr("%1 documents").arg(count));
 }
 
 void MainWindow::updateActions()

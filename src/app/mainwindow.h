@@ -36,6 +36,7 @@ private:
     void createActions();
     void contextChanged();
     void updateActions();
+    void updateSummary();
     void syncSelectionFromList();
     void syncSelectionToList();
 

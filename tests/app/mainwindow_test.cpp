@@ -1,0 +1,76 @@
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTableView>
+
+#include "app/appdelegate.h"
+#include "app/documenteditor.h"
+#include "app/mainwindow.h"
+#include "cli/samplegenerator.h"
+#include "support/testsupport.h"
+
+using namespace tamo;
+using namespace tamo::test;
+
+namespace {
+
+QAction* action(MainWindow& window, const QString& text)
+{
+    for (QAction* menu : window.menuBar()->actions()) {
+        for (QAction* a : menu->menu()->actions()) {
+            if (a->text().remove(u'&').startsWith(text)) {
+                return a;
+            }
+        }
+    }
+    return nullptr;
+}
+
+TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
+{
+    TempProfile dir;
+    QDir().mkpath(dir.profile().supportFolder);
+    {
+        auto context = openContext(dir.storePath());
+        SystemClock clock;
+        ASSERT_TRUE(generateSample(*context, clock, {12, 2, 3, 7}));
+    }
+    AppDelegate delegate(dir.profile());
+    delegate.start();
+    MainWindow& window = delegate.window();
+    EXPECT_EQ(window.documentTable()->model()->rowCount(), 12);
+
+    // The first document is selected at start; make it editable and retitle it.
+    Record* current = delegate.session().documents().current();
+    ASSERT_NE(current, nullptr);
+    current->setValue("status", 0);
+    window.editor()->refresh();
+    auto* title = window.editor()->findChildren<QLineEdit*>().at(1);
+    ASSERT_FALSE(title->isReadOnly());
+    title->setText(u"Final invoice"_qs);
+    emit title->editingFinished();
+    EXPECT_EQ(current->string("title"), u"Final invoice");
+    EXPECT_FALSE(delegate.session().context()->hasChanges());
+
+    QAction* undo = action(window, u"Undo"_qs);
+    ASSERT_NE(undo, nullptr);
+    EXPECT_EQ(undo->text(), u"&Undo Edit Title");
+    undo->trigger();
+    EXPECT_NE(current->string("title"), u"Final invoice");
+    EXPECT_EQ(title->text(), current->string("title"));
+
+    EXPECT_TRUE(window.close());
+    EXPECT_TRUE(delegate.session().settings().boolean(key::isTerminatedFine));
+    EXPECT_EQ(delegate.session().settings().integer(key::fetchedObjectsCount), 12);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
