@@ -375,30 +375,55 @@ void Context::applyTarget(Record& r, int relationship, qint64 target)
     if (link.target == target) {
         return;
     }
-    const auto& rel = r.entity().relationships()[size_t(relationship)];
-    const EntityDescription& destination = *model_.entity(rel.destination);
-    const int inverse = destination.relationshipIndex(rel.inverse);
     touch(r);
-    if (link.target != 0 && !r.deleted_) {
-        if (Record* owner = object(destination, link.target)) {
-            if (owner->links_[size_t(inverse)].loaded) {
-                eraseValue(owner->links_[size_t(inverse)].members, &r);
-            }
-            noteChange(*owner, Change::Updated);
-        }
+    if (!r.deleted_) {
+        detachFromOwner(r, relationship);
     }
     link.target = target;
-    if (target != 0 && !r.deleted_) {
-        if (Record* owner = object(destination, target)) {
-            loadMembers(*owner, inverse);
-            auto& members = owner->links_[size_t(inverse)].members;
-            if (!containsValue(members, &r)) {
-                members.push_back(&r);
-            }
-            noteChange(*owner, Change::Updated);
-        }
+    if (!r.deleted_) {
+        attachToOwner(r, relationship);
     }
     noteChange(r, Change::Updated);
+}
+
+// The owner's member list is only kept once it was loaded; an unloaded list is read from the
+// file, with the in-memory targets deciding, when it is first asked for.
+void Context::detachFromOwner(Record& r, int relationship)
+{
+    const qint64 target = r.links_[size_t(relationship)].target;
+    if (target == 0) {
+        return;
+    }
+    const auto& rel = r.entity().relationships()[size_t(relationship)];
+    const EntityDescription& destination = *model_.entity(rel.destination);
+    EntityState& owners = state(destination);
+    if (auto it = owners.records.find(target); it != owners.records.end()) {
+        Record& owner = *it->second;
+        Record::Link& members = owner.links_[size_t(destination.relationshipIndex(rel.inverse))];
+        if (members.loaded) {
+            eraseValue(members.members, &r);
+        }
+        noteChange(owner, Change::Updated);
+    }
+}
+
+void Context::attachToOwner(Record& r, int relationship)
+{
+    const qint64 target = r.links_[size_t(relationship)].target;
+    if (target == 0) {
+        return;
+    }
+    const auto& rel = r.entity().relationships()[size_t(relationship)];
+    const EntityDescription& destination = *model_.entity(rel.destination);
+    if (Record* owner = object(destination, target)) {
+        const int inverse = destination.relationshipIndex(rel.inverse);
+        loadMembers(*owner, inverse);
+        auto& members = owner->links_[size_t(inverse)].members;
+        if (!containsValue(members, &r)) {
+            members.push_back(&r);
+        }
+        noteChange(*owner, Change::Updated);
+    }
 }
 
 // Deleting and reviving only flip the record's state and its place in its owners' lists; its
@@ -409,18 +434,8 @@ void Context::kill(Record& r)
     markPending(r);
     const auto& relationships = r.entity().relationships();
     for (size_t i = 0; i < relationships.size(); ++i) {
-        const auto& rel = relationships[i];
-        if (rel.toMany || r.links_[i].target == 0) {
-            continue;
-        }
-        const EntityDescription& destination = *model_.entity(rel.destination);
-        EntityState& s = state(destination);
-        if (auto it = s.records.find(r.links_[i].target); it != s.records.end()) {
-            Record::Link& members =
-                it->second->links_[size_t(destination.relationshipIndex(rel.inverse))];
-            if (members.loaded) {
-                eraseValue(members.members, &r);
-            }
+        if (!relationships[i].toMany) {
+            detachFromOwner(r, int(i));
         }
     }
     noteChange(r, Change::Deleted);
@@ -432,18 +447,8 @@ void Context::revive(Record& r)
     markPending(r);
     const auto& relationships = r.entity().relationships();
     for (size_t i = 0; i < relationships.size(); ++i) {
-        const auto& rel = relationships[i];
-        if (rel.toMany || r.links_[i].target == 0) {
-            continue;
-        }
-        const EntityDescription& destination = *model_.entity(rel.destination);
-        if (Record* owner = object(destination, r.links_[i].target)) {
-            const int inverse = destination.relationshipIndex(rel.inverse);
-            loadMembers(*owner, inverse);
-            auto& members = owner->links_[size_t(inverse)].members;
-            if (!containsValue(members, &r)) {
-                members.push_back(&r);
-            }
+        if (!relationships[i].toMany) {
+            attachToOwner(r, int(i));
         }
     }
     noteChange(r, Change::Inserted);

@@ -112,6 +112,8 @@ private:
     void setValueAt(Record& record, int attribute, const Value& value);
     void setTarget(Record& record, int relationship, Record* target);
     void applyTarget(Record& record, int relationship, qint64 target);
+    void detachFromOwner(Record& record, int relationship);
+    void attachToOwner(Record& record, int relationship);
     void kill(Record& record);
     void revive(Record& record);
     void markPending(Record& record);

@@ -240,15 +240,7 @@ Result<void> StoreFile::selectAll(const EntityDescription& entity,
     if (!s) {
         return std::unexpected(s.error());
     }
-    current_ = &*s;
-    while (s->step()) {
-        row(s->int64(s->columnCount() - 1));
-    }
-    current_ = nullptr;
-    if (s->error()) {
-        return std::unexpected(*s->error());
-    }
-    return {};
+    return readRows(*s, row);
 }
 
 Result<void> StoreFile::selectWhere(const EntityDescription& entity, const std::string& column,
@@ -260,13 +252,19 @@ Result<void> StoreFile::selectWhere(const EntityDescription& entity, const std::
         return std::unexpected(s.error());
     }
     s->bind(1, value);
-    current_ = &*s;
-    while (s->step()) {
-        row(s->int64(s->columnCount() - 1));
+    return readRows(*s, row);
+}
+
+// Steps through rows whose last column is the primary key, each readable by `read` meanwhile.
+Result<void> StoreFile::readRows(sql::Statement& s, const std::function<void(qint64)>& row)
+{
+    current_ = &s;
+    while (s.step()) {
+        row(s.int64(s.columnCount() - 1));
     }
     current_ = nullptr;
-    if (s->error()) {
-        return std::unexpected(*s->error());
+    if (s.error()) {
+        return std::unexpected(*s.error());
     }
     return {};
 }

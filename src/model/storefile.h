@@ -49,6 +49,7 @@ private:
     Result<void> prepareStatements();
     Statements& statements(const EntityDescription& entity);
     void bindRecord(sql::Statement& statement, const Record& record);
+    Result<void> readRows(sql::Statement& statement, const std::function<void(qint64)>& row);
 
     QString path_;
     sql::Database db_;

@@ -67,10 +67,3 @@ TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
 }
 
 }  // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -7,14 +7,8 @@ using namespace tamo::test;
 
 namespace {
 
-class AppSessionTest : public ::testing::Test {
+class AppSessionTest : public SessionTest {
 protected:
-    TempProfile dir;
-    Settings settings{dir.profile().settingsFile};
-    FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(9, 0), Qt::UTC)};
-    ScriptedPrompter prompter;
-    AppSession session{dir.profile(), settings, clock, prompter};
-
     // An unsaved edit whose save the store file refuses.
     Record* unsavableEdit()
     {

@@ -19,14 +19,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
     f.write(bytes);
 }
 
-class StoreLocationTest : public ::testing::Test {
-protected:
-    TempProfile dir;
-    Settings settings{dir.profile().settingsFile};
-    FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(9, 0), Qt::UTC)};
-    ScriptedPrompter prompter;
-    AppSession session{dir.profile(), settings, clock, prompter};
-};
+using StoreLocationTest = SessionTest;
 
 TEST_F(StoreLocationTest, TheStoreLivesInTheSupportFolderByDefault)
 {

@@ -4,8 +4,10 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "model/appsession.h"
 #include "model/context.h"
 #include "platform/profile.h"
+#include "platform/scriptedprompter.h"
 
 namespace tamo::test {
 
@@ -20,6 +22,16 @@ public:
 private:
     QTemporaryDir dir_;
     Profile profile_;
+};
+
+// A session on a temporary profile with scripted answers and a fixed time.
+class SessionTest : public ::testing::Test {
+protected:
+    TempProfile dir;
+    Settings settings{dir.profile().settingsFile};
+    FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(9, 0), Qt::UTC)};
+    ScriptedPrompter prompter;
+    AppSession session{dir.profile(), settings, clock, prompter};
 };
 
 // Opens a store file, failing the test when it cannot.
