@@ -45,6 +45,15 @@ Context* AppSession::managedObjectContext()
     return context_.get();
 }
 
+void AppSession::setStatistics(const DocumentStatistics& statistics)
+{
+    if (statistics == statistics_) {
+        return;
+    }
+    statistics_ = statistics;
+    emit statisticsChanged();
+}
+
 bool AppSession::saveContext()
 {
     if (!commitEditing()) {

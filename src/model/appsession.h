@@ -13,6 +13,19 @@
 
 namespace tamo {
 
+// The counts and sums of the listed documents, as the last statistics pass left them. The sums
+// are single precision, like the figures the window has always shown.
+struct DocumentStatistics {
+    float totalAmount = 0;
+    float paidAmount = 0;
+    float dueAmount = 0;
+    int invoiceCount = 0;           // listed invoices that have been sent
+    int invoiceCountForNumber = 0;  // every listed invoice; the invoice numbers count these
+    int quoteCount = 0;
+
+    friend bool operator==(const DocumentStatistics&, const DocumentStatistics&) = default;
+};
+
 // What the operations of every area share: the profile's folders, the settings, the clock, the
 // prompts, the one object context and the arranged document list. It also runs the store's
 // life: opening it on first use, saving, moving it to another folder, start-up and quit.
@@ -41,6 +54,9 @@ public:
     const Clock& clock() const { return clock_; }
     Prompter& prompter() const { return prompter_; }
     DocumentList& documents() { return documents_; }
+    const DocumentStatistics& statistics() const { return statistics_; }
+    // Emits statisticsChanged when the figures differ from the last ones.
+    void setStatistics(const DocumentStatistics& statistics);
     Hooks& hooks() { return hooks_; }
 
     QString applicationFilesDirectory() const { return profile_.supportFolder; }
@@ -65,6 +81,7 @@ public:
 
 signals:
     void contextChanged(tamo::Context* context);
+    void statisticsChanged();
 
 private:
     bool commitEditing() const { return !hooks_.commitEditing || hooks_.commitEditing(); }
@@ -78,6 +95,7 @@ private:
     std::unique_ptr<Context> context_;
     bool openAttempted_ = false;
     DocumentList documents_;
+    DocumentStatistics statistics_;
 };
 
 }  // namespace tamo

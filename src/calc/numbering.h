@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QDateTime>
+#include <QLocale>
+#include <QString>
+#include <functional>
+
+#include "model/appsession.h"
+
+namespace tamo {
+
+namespace key {
+// Edited in the preferences window; the numbering reads them at the moment of use.
+inline constexpr SettingKey invPattern{"invPattern", SettingType::Text};
+inline constexpr SettingKey quotPattern{"quotPattern", SettingType::Text};
+inline constexpr SettingKey clientPattern{"clientPattern", SettingType::Text};
+inline constexpr SettingKey clientCount{"clientCount", SettingType::Number};
+}  // namespace key
+
+// Numbers of new invoices, quotes and clients from the user's patterns. There is no running
+// counter: a number counts the documents the last statistics pass saw, plus an offset the user
+// (or the deletion of a document) raises. The date tokens take today from the clock.
+class Numbering {
+public:
+    explicit Numbering(AppSession& session) : session_(session) {}
+
+    QString invoiceNumberString() const;
+    // The converted quote already counts as an invoice, so no one is added.
+    QString convertedInvoiceNumberString() const;
+    QString quoteNumberString() const;
+    QString clientNumberString() const;
+    // Hands a new client number to the client panel's number field.
+    void generateClientNumber(const std::function<void(const QString&)>& setField) const;
+
+    // So that the next number skips the one of a deleted document.
+    void raiseInvoiceCounter() const;
+    void raiseQuoteCounter() const;
+
+private:
+    AppSession& session_;
+};
+
+// Fills a number pattern's %COUNT%, %YEAR%, %MONTH% and %DAY% without padding.
+QString numberFromPattern(QString pattern, int count, const QDate& today);
+
+// The invoice number the preferences show while the pattern is edited: no documents are counted.
+QString previewInvoiceNumberString(const Settings& settings, const Clock& clock);
+
+// `date` printed through the user's date pattern (prefsDatePattern), whose tokens %DAY%,
+// %MONTHSHORT%, %MONTHLONG%, %YEARSHORT% and %YEARLONG% become CLDR date-format fields; other
+// letters are format letters too. The preferences preview uses the same.
+QString getPatternDateStringFromDate(const Settings& settings, const QDateTime& date,
+                                     const QLocale& locale = QLocale());
+
+}  // namespace tamo
