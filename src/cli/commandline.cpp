@@ -148,6 +148,8 @@ const CommandEntry kCommands[] = {
     {u"list", true, listCommand},
     {u"settings", false, settingsCommand},
     {u"generate-sample", true, generateSampleCommand},
+    {u"recalc", true, recalcCommand},
+    {u"next-number", true, nextNumberCommand},
 };
 
 }  // namespace
@@ -162,7 +164,9 @@ QString usage()
         "commands:\n"
         "  list [--json]\n"
         "  settings get KEY | settings set KEY VALUE\n"
-        "  generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]\n");
+        "  generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]\n"
+        "  recalc\n"
+        "  next-number invoice|quote|client\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)

@@ -26,5 +26,9 @@ std::optional<Failure> settingsCommand(AppSession& session, const QStringList& a
                                        QTextStream& out);
 std::optional<Failure> generateSampleCommand(AppSession& session, const QStringList& args,
                                              QTextStream& out);
+std::optional<Failure> recalcCommand(AppSession& session, const QStringList& args,
+                                     QTextStream& out);
+std::optional<Failure> nextNumberCommand(AppSession& session, const QStringList& args,
+                                         QTextStream& out);
 
 }  // namespace tamo

@@ -1,0 +1,66 @@
+#include <QLocale>
+
+#include "calc/numbering.h"
+#include "calc/totals.h"
+#include "cli/commands.h"
+#include "model/appsession.h"
+
+namespace tamo {
+
+namespace {
+
+QString money(float value)
+{
+    return QLocale::c().toString(double(value), 'f', 2);
+}
+
+}  // namespace
+
+std::optional<Failure> recalcCommand(AppSession& session, const QStringList& args, QTextStream& out)
+{
+    if (!args.isEmpty()) {
+        return Failure{QStringLiteral("usage: tamo recalc"), kUsageError};
+    }
+    // The window applies these at start; the discount setting among them changes every total.
+    applyOneTimeUpdates(session.settings());
+    Context& context = *session.context();
+    {
+        WithoutUndo withoutUndo(context);
+        UndoGroup group(context, QStringLiteral("Recalculate"));  // announced once, not per value
+        Totals(session).calculateDocuments(context.fetch("Invoice"));
+    }
+    const DocumentStatistics& s = session.statistics();
+    out << QStringLiteral("Invoices: %1 (%2 sent)\n")
+               .arg(s.invoiceCountForNumber)
+               .arg(s.invoiceCount)
+        << QStringLiteral("Quotes: %1\n").arg(s.quoteCount)
+        << QStringLiteral("Total: %1\n").arg(money(s.totalAmount))
+        << QStringLiteral("Paid: %1\n").arg(money(s.paidAmount))
+        << QStringLiteral("Due: %1\n").arg(money(s.dueAmount));
+    return std::nullopt;
+}
+
+std::optional<Failure> nextNumberCommand(AppSession& session, const QStringList& args,
+                                         QTextStream& out)
+{
+    const QString kind = args.value(0);
+    if (args.size() != 1 || (kind != u"invoice" && kind != u"quote" && kind != u"client")) {
+        return Failure{QStringLiteral("usage: tamo next-number invoice|quote|client"), kUsageError};
+    }
+    {
+        // The counts come from the statistics pass, as they do in the window.
+        UndoGroup group(*session.context(), QStringLiteral("Update Statistics"));
+        Totals(session).calculateDatabase();
+    }
+    const Numbering numbering(session);
+    if (kind == u"invoice") {
+        out << numbering.invoiceNumberString() << '\n';
+    } else if (kind == u"quote") {
+        out << numbering.quoteNumberString() << '\n';
+    } else {
+        out << numbering.clientNumberString() << '\n';
+    }
+    return std::nullopt;
+}
+
+}  // namespace tamo
