@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
+#include "calc/totals.h"
 #include "model/appsession.h"
 #include "model/transformers.h"
 
@@ -105,6 +106,9 @@ void DocumentEditor::apply(const Field& field)
     {
         UndoGroup group(*session_.context(), field.undoName);
         document_->setValue(field.key, field.edit->text());
+        if (affectsTotals(*document_, field.key)) {
+            Totals(session_).calculateInvoice(*document_);  // undone together with the edit
+        }
     }
     session_.saveContext();
 }

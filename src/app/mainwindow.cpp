@@ -15,6 +15,8 @@
 
 #include "app/documenteditor.h"
 #include "app/documenttablemodel.h"
+#include "calc/numberformat.h"
+#include "calc/totals.h"
 #include "model/appsession.h"
 
 namespace tamo {
@@ -84,6 +86,7 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     DocumentList& list = session_.documents();
     connect(&list, &DocumentList::arrangementChanged, this, [this] {
         syncSelectionFromList();
+        updateStatistics();
         updateSummary();
     });
     connect(&list, &DocumentList::selectionChanged, this, [this] {
@@ -94,7 +97,9 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
         if (std::find(d.begin(), d.end(), session_.documents().current()) != d.end()) {
             editor_->refresh();
         }
+        updateStatistics();
     });
+    connect(&session_, &AppSession::statisticsChanged, this, &MainWindow::updateSummary);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::syncSelectionToList);
     connect(&session_, &AppSession::contextChanged, this, &MainWindow::contextChanged);
@@ -143,14 +148,32 @@ void MainWindow::contextChanged()
                 Qt::UniqueConnection);
         connect(context, &Context::didSave, this, &MainWindow::updateActions, Qt::UniqueConnection);
     }
+    updateStatistics();
     updateSummary();
     updateActions();
 }
 
+void MainWindow::updateStatistics()
+{
+    Context* context = session_.context();
+    if (!context) {
+        return;
+    }
+    // Open and overdue follow from the clock, not from anything the user did, so moving an
+    // invoice between them is not an undoable step.
+    WithoutUndo automatic(*context);
+    UndoGroup group(*context, {});
+    Totals(session_).calculateDatabase();
+}
+
 void MainWindow::updateSummary()
 {
-    const int count = session_.documents().size();
-    summary_->setText(count == 1 ? tr("1 document") : tr("%1 documents").arg(count));
+    const DocumentStatistics& s = session_.statistics();
+    summary_->setText(tr("Invoices: %1   Quotes: %2   Total: %3   Paid: %4   Due: %5")
+                          .arg(s.invoiceCountForNumber)
+                          .arg(s.quoteCount)
+                          .arg(stringFromNumber(s.totalAmount), stringFromNumber(s.paidAmount),
+                               stringFromNumber(s.dueAmount)));
 }
 
 void MainWindow::updateActions()

@@ -37,6 +37,8 @@ private:
     void contextChanged();
     void updateActions();
     void updateSummary();
+    // Runs the statistics pass over the listed documents.
+    void updateStatistics();
     void syncSelectionFromList();
     void syncSelectionToList();
 
