@@ -58,10 +58,10 @@ bool DialogPrompter::presentError(const Error& error)
 
 std::optional<QString> DialogPrompter::chooseFileToOpen(const FileRequest& request)
 {
-    const QString path =
-        request.directories
-            ? QFileDialog::getExistingDirectory(window_, request.title)
-            : QFileDialog::getOpenFileName(window_, request.title, {}, nameFilter(request));
+    const QString path = request.directories
+                             ? QFileDialog::getExistingDirectory(window_, request.title)
+                             : QFileDialog::getOpenFileName(window_, request.title,
+                                                            request.directory, nameFilter(request));
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 

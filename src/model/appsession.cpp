@@ -45,6 +45,27 @@ Context* AppSession::managedObjectContext()
     return context_.get();
 }
 
+Result<void> AppSession::reloadStore(
+    const std::function<Result<void>(const QString& storePath)>& replace)
+{
+    const QString path = context_ ? context_->path() : storeFilePath(settings_, profile_);
+    if (context_) {
+        documents_.setContext(nullptr);
+        std::unique_ptr<Context> closing = std::move(context_);
+        emit contextChanged(nullptr);
+    }
+    Result<void> replaced = replace(path);
+    openAttempted_ = true;
+    auto reopened = Context::open(path);
+    if (!reopened) {
+        return std::unexpected(reopened.error());
+    }
+    context_ = std::move(*reopened);
+    documents_.setContext(context_.get());
+    emit contextChanged(context_.get());
+    return replaced;
+}
+
 void AppSession::setStatistics(const DocumentStatistics& statistics)
 {
     if (statistics == statistics_) {
@@ -116,6 +137,11 @@ bool AppSession::customPathChanged()
         }
     };
     if ((hooks_.completeBackup && !hooks_.completeBackup()) || !saveContext()) {
+        restoreLocation();
+        return false;
+    }
+    context = context_.get();  // the complete backup reopens the store
+    if (!context) {
         restoreLocation();
         return false;
     }

@@ -66,6 +66,13 @@ public:
     Context* managedObjectContext();
     Context* context() const { return context_.get(); }
 
+    // Lets go of the store while `replace` works on its file (a restore puts another file in its
+    // place), then opens the file at the same place again; contextChanged tells the interface
+    // both times. Without an open store, `replace` works where the settings say the store lives.
+    // The result is the replacement's, or the reopening's failure (then there is no store until
+    // the next start).
+    Result<void> reloadStore(const std::function<Result<void>(const QString& storePath)>& replace);
+
     // Commits pending edits and saves when something changed. A failure is presented.
     bool saveContext();
     void saveAction() { saveContext(); }

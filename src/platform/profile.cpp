@@ -25,6 +25,8 @@ Profile Profile::standard()
     p.dataFolder = data + QStringLiteral("/Tamo");
     p.settingsFile = config + QStringLiteral("/Tamo/Tamo.conf");
     p.recoveryFolder = p.dataFolder + QStringLiteral("/Recovery");
+    p.documentsFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    p.homeFolder = QDir::homePath();
     return p;
 }
 
@@ -36,6 +38,8 @@ Profile Profile::inDirectory(const QString& directory)
     p.dataFolder = root + QStringLiteral("/Tamo");
     p.settingsFile = root + QStringLiteral("/Tamo.conf");
     p.recoveryFolder = p.dataFolder + QStringLiteral("/Recovery");
+    p.documentsFolder = root + QStringLiteral("/Documents");
+    p.homeFolder = root;
     return p;
 }
 

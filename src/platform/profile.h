@@ -12,7 +12,9 @@ struct Profile {
     QString supportFolder;  // holds the store unless the settings name another folder
     QString dataFolder;     // previews, attachments, exports
     QString settingsFile;
-    QString recoveryFolder;  // snapshots taken before wholesale replacements
+    QString recoveryFolder;   // snapshots taken before wholesale replacements
+    QString documentsFolder;  // the user's documents: the safety copy
+    QString homeFolder;       // where other editions (Flatpak) keep their data
 
     static Profile standard();
     static Profile inDirectory(const QString& directory);

@@ -21,6 +21,7 @@ struct FileRequest {
     QString proposedName;    // save requests only
     bool directories = false;
     bool canCreateDirectories = false;
+    QString directory;  // where an open panel starts; empty lets the platform choose
 };
 
 // Everything the core asks of a person goes through this interface: the window answers with

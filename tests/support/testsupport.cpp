@@ -1,6 +1,7 @@
 #include "support/testsupport.h"
 
 #include <QFile>
+#include <limits>
 
 #include "model/sqlite.h"
 
@@ -43,6 +44,24 @@ QString readFile(const QString& path)
 {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+Value sampleValue(AttributeType type, size_t salt)
+{
+    switch (type) {
+    case AttributeType::String:
+        return Value(QStringLiteral("Grüße «%1» — 𝄞 line\nnext").arg(salt));
+    case AttributeType::Integer:
+        return Value(salt % 2 ? std::numeric_limits<qint32>::min()
+                              : std::numeric_limits<qint32>::max());
+    case AttributeType::Boolean:
+        return Value(salt % 2 == 0);
+    case AttributeType::Decimal:
+        return Value(0.1 + 0.2 + double(salt) * 1e-9);  // not representable in few digits
+    case AttributeType::Date:
+        return Value(QDateTime::fromMSecsSinceEpoch(1700000000123LL + qint64(salt), Qt::UTC));
+    }
+    return {};
 }
 
 }  // namespace tamo::test

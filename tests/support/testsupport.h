@@ -43,6 +43,10 @@ QString queryText(const QString& path, const QString& sql);
 
 QString readFile(const QString& path);
 
+// A value per attribute type that a faulty column mapping or file format would not reproduce
+// exactly.
+Value sampleValue(AttributeType type, size_t salt);
+
 }  // namespace tamo::test
 
 // Lets GoogleTest print Qt strings in failure messages.

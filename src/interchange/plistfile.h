@@ -1,0 +1,67 @@
+#pragma once
+
+#include <plist/plist.h>
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "model/value.h"
+#include "platform/error.h"
+
+namespace tamo {
+
+inline constexpr auto kInterchangeDomain = "Tamo.interchange";
+
+// Error codes of the interchange module.
+enum InterchangeError {
+    kFileUnreadable = 1,
+    kFileTooLarge,
+    kNotAPropertyList,
+    kWrongContent,
+    kNoPropertyListForm,
+    kFileNotWritten,
+    kStoreFileProblem,
+};
+
+Error interchangeError(int code, QString message, QString reason = {});
+
+struct PlistDeleter {
+    void operator()(void* node) const { plist_free(node); }
+};
+// Owns a libplist node and everything below it.
+using Plist = std::unique_ptr<void, PlistDeleter>;
+
+enum class PlistFormat { Xml, Binary };
+
+// Backups of 10,000 documents are some 50 MiB; anything far beyond is not a file of ours and
+// would only exhaust memory.
+inline constexpr qint64 kMaxInterchangeFileSize = qint64(512) << 20;
+
+Result<QByteArray> readWholeFile(const QString& path, qint64 limit = kMaxInterchangeFileSize);
+// Through QSaveFile: the file is complete or untouched.
+Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes);
+
+Result<QByteArray> serializePlist(plist_t root, PlistFormat format);
+// An XML or binary property list, told apart by its first bytes.
+Result<Plist> parsePlist(const QByteArray& bytes);
+Result<Plist> readPlistFile(const QString& path);
+
+// Dates in property lists and keyed archives count seconds from 2001-01-01 00:00 UTC.
+double appleTimeFrom(const QDateTime& date);
+// Invalid when the number is not a time a date can hold.
+QDateTime dateFromAppleTime(double seconds);
+
+// The property-list form of an attribute value; nullptr when it has none (a date before 1933 or
+// after 2068: libplist keeps a date's seconds in 32 bits).
+plist_t plistFromValue(const Value& value);
+// The value of a text, number, boolean or date node; nullopt for any other node. Integers
+// beyond 32 bits become decimals.
+std::optional<Value> valueFromPlist(plist_t node);
+
+QString plistString(plist_t node);
+// A short English name of the node's kind for messages ("text", "a list", ...).
+QString plistKindName(plist_t node);
+
+}  // namespace tamo

@@ -1,0 +1,328 @@
+// The XML exports, the invoice and item backups and restores, the dump and the import of a
+// single document.
+
+#include <QFileInfo>
+
+#include "interchange/datainterchange.h"
+#include "interchange/keyedarchive.h"
+#include "interchange/recorddictionary.h"
+#include "interchange/storefiles.h"
+#include "model/storelocation.h"
+
+namespace tamo {
+
+namespace {
+
+// The array of the records' dictionaries as an XML property list.
+Result<QByteArray> xmlOfRecords(const std::vector<Record*>& records)
+{
+    auto list = toDictionaryList(records);
+    if (!list) {
+        return std::unexpected(list.error());
+    }
+    return serializePlist(list->get(), PlistFormat::Xml);
+}
+
+// What Tamo writes into an "invdump" file, in this order.
+constexpr std::pair<const char*, const char*> kDumpKeys[] = {
+    {"invoices", "Invoice"},  {"items", "RecentItem"},         {"designs", "Design"},
+    {"addresses", "Address"}, {"shippings", "RecentShipping"}, {"templates", "Template"}};
+
+}  // namespace
+
+DataInterchange::DataInterchange(AppSession& session) : DataInterchange(session, session.prompter())
+{
+}
+
+DataInterchange::DataInterchange(AppSession& session, Prompter& prompter)
+    : session_(session), prompter_(prompter)
+{
+    createBackupPath();
+}
+
+ActionResult DataInterchange::failed(const Error& error)
+{
+    qCWarning(lcInterchange).noquote() << error.text();
+    prompter_.presentError(error);
+    return ActionResult::Failed;
+}
+
+bool DataInterchange::confirmed(const QString& text, const QString& button)
+{
+    return prompter_.ask({QStringLiteral("Warning!"), text, {button, QStringLiteral("Cancel")}}) ==
+           button;
+}
+
+QString DataInterchange::liveStorePath() const
+{
+    const Context* context = session_.context();
+    return context ? context->path() : storeFilePath(session_.settings(), session_.profile());
+}
+
+bool DataInterchange::snapshot(const QString& reason)
+{
+    auto taken = RecoverySnapshots(session_.profile().recoveryFolder)
+                     .take(session_.context(), liveStorePath(), session_.clock().now(), reason);
+    if (!taken) {
+        Error e = taken.error();
+        e.reason =
+            (e.reason + QStringLiteral(" Without a recovery copy nothing was changed.")).trimmed();
+        failed(e);
+        return false;
+    }
+    if (!taken->isEmpty()) {
+        qCInfo(lcInterchange).noquote() << "Wrote the recovery copy" << *taken;
+    }
+    return true;
+}
+
+QStringList DataInterchange::recoverySnapshots() const
+{
+    return RecoverySnapshots(session_.profile().recoveryFolder).list();
+}
+
+ActionResult DataInterchange::writeXml(const std::vector<Record*>& records,
+                                       const FileRequest& panel)
+{
+    auto xml = xmlOfRecords(records);
+    if (!xml) {
+        Error e = xml.error();
+        e.reason = QStringLiteral("No file was written.");
+        return failed(e);
+    }
+    const auto path = prompter_.chooseFileToSave(panel);
+    if (!path) {
+        return ActionResult::Cancelled;
+    }
+    if (auto written = writeFileAtomically(*path, *xml); !written) {
+        return failed(written.error());
+    }
+    return ActionResult::Done;
+}
+
+ActionResult DataInterchange::exportTamoDataXML()
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    return writeXml(context->fetch("Invoice"),
+                    savePanel(QStringLiteral("Export Tamo Database As XML"), QStringLiteral("xml"),
+                              QStringLiteral("Tamo Database")));
+}
+
+ActionResult DataInterchange::exportItems()
+{
+    if (!session_.managedObjectContext()) {
+        return ActionResult::Failed;
+    }
+    return writeXml(
+        session_.documents().arranged(),
+        savePanel(QStringLiteral("Export Tamo Database As XML"), QStringLiteral("xml"), QString()));
+}
+
+ActionResult DataInterchange::backupTamoData()
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    session_.saveContext();
+    return writeXml(context->fetch("Invoice"),
+                    savePanel(QStringLiteral("Backup Tamo Invoices"),
+                              QStringLiteral("tamoinvoices"), QStringLiteral("Tamo Invoices")));
+}
+
+ActionResult DataInterchange::backupItems()
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    session_.saveContext();
+    return writeXml(context->fetch("RecentItem"),
+                    savePanel(QStringLiteral("Backup Tamo Items"), QStringLiteral("tamoitems"),
+                              QStringLiteral("Tamo Items")));
+}
+
+ActionResult DataInterchange::restoreTamoData()
+{
+    return restoreRecords(
+        "Invoice",
+        QStringLiteral("You are about to restore your Tamo invoices from a backup. "
+                       "This will irretrievably replace any existing invoices. "
+                       "Do you really want to do that?"),
+        QStringLiteral("Restore Tamo Invoices"), QStringLiteral("tamoinvoices"));
+}
+
+ActionResult DataInterchange::restoreItems()
+{
+    return restoreRecords("RecentItem",
+                          QStringLiteral("You are about to restore your Tamo items from a backup. "
+                                         "This will irretrievably replace any existing items. Do "
+                                         "you really want to do that?"),
+                          QStringLiteral("Restore Tamo Items"), QStringLiteral("tamoitems"));
+}
+
+ActionResult DataInterchange::restoreRecords(const char* entity, const QString& warning,
+                                             const QString& title, const QString& extension)
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    if (!confirmed(warning, QStringLiteral("Restore…"))) {
+        return ActionResult::Cancelled;
+    }
+    const auto path = prompter_.chooseFileToOpen(openPanel(title, extension));
+    if (!path) {
+        return ActionResult::Cancelled;
+    }
+    // The item catalog shows every catalog entry; the invoice list may be narrowed.
+    const bool invoices = std::string_view(entity) == "Invoice";
+    return replaceWithRecords(
+        invoices ? session_.documents().arranged() : context->fetch(entity), *path, entity,
+        invoices ? QStringLiteral("restoreTamoData") : QStringLiteral("restoreItems"));
+}
+
+// The shown records go before the file is read, as they always have; the recovery copy written
+// first is what brings them back when the file turns out to be unusable.
+ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& shown,
+                                                 const QString& path, const char* entity,
+                                                 const QString& reason)
+{
+    if (!snapshot(reason)) {
+        return ActionResult::Failed;
+    }
+    Context& context = *session_.context();
+    Result<void> outcome;
+    {
+        UndoGroup group(context, QStringLiteral("Restore"));
+        WithoutUndo quiet(context);
+        for (Record* record : shown) {
+            context.remove(record);
+        }
+        auto list = readPlistFile(path);
+        if (!list) {
+            outcome = std::unexpected(list.error());
+        } else if (auto created = createManagedObjectsFromList(list->get(), context, entity);
+                   !created) {
+            outcome = std::unexpected(created.error());
+        }
+    }
+    // Undoing an edit made before would now touch records that were replaced.
+    context.undoManager().clear();
+    session_.saveContext();
+    if (!outcome) {
+        Error e = outcome.error();
+        if (e.code != kFileUnreadable && e.code != kFileTooLarge && e.code != kNotAPropertyList) {
+            e.reason = e.message;
+            e.message = QStringLiteral("The file “%1” could not be restored.")
+                            .arg(QFileInfo(path).fileName());
+        }
+        e.reason = (e.reason + QStringLiteral(" The records that were listed have been removed; "
+                                              "File › Recover Previous Database… brings them "
+                                              "back."))
+                       .trimmed();
+        return failed(e);
+    }
+    return ActionResult::Done;
+}
+
+ActionResult DataInterchange::exportAsInvoiceFile()
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    session_.saveContext();
+    const auto path = prompter_.chooseFileToSave(
+        savePanel(QStringLiteral("Export As Invoices Dump"), QStringLiteral("invdump"),
+                  QStringLiteral("Invoices Dump")));
+    if (!path) {
+        return ActionResult::Cancelled;
+    }
+    Plist dump(plist_new_dict());
+    for (const auto& [key, entity] : kDumpKeys) {
+        auto list = toDictionaryList(context->fetch(entity));
+        if (!list) {
+            return failed(list.error());
+        }
+        plist_dict_set_item(dump.get(), key, list->release());
+    }
+    auto archive = keyedArchive(dump.get());
+    if (!archive) {
+        return failed(archive.error());
+    }
+    if (auto written = writeFileAtomically(*path, *archive); !written) {
+        return failed(written.error());
+    }
+    return ActionResult::Done;
+}
+
+ActionResult DataInterchange::importInvoice()
+{
+    Context* context = session_.managedObjectContext();
+    if (!context) {
+        return ActionResult::Failed;
+    }
+    if (!confirmed(
+            QStringLiteral(
+                "The integrity of your data is your responsibility, and yours alone. Tamo is "
+                "just a stupid App and by design it can't know or care about duplicate "
+                "invoices, messed up numbers, or if you're having a bad hair day. So please, "
+                "do yourself a favor and check what you are doing here. Do you still want to "
+                "import the invoice?"),
+            QStringLiteral("Import…"))) {
+        return ActionResult::Cancelled;
+    }
+    const auto path = prompter_.chooseFileToOpen(
+        openPanel(QStringLiteral("Import Tamo Document"), QStringLiteral("tamo")));
+    if (!path) {
+        return ActionResult::Cancelled;
+    }
+    const auto refused = [&](const Error& e) {
+        return failed(interchangeError(e.code,
+                                       QStringLiteral("The document “%1” could not be imported.")
+                                           .arg(QFileInfo(*path).fileName()),
+                                       e.reason.isEmpty() ? e.message : e.reason));
+    };
+    auto bytes = readWholeFile(*path);
+    if (!bytes) {
+        return failed(bytes.error());
+    }
+    auto root = keyedUnarchive(*bytes);
+    if (!root) {
+        return refused(root.error());
+    }
+    plist_t document = plist_get_node_type(root->get()) == PLIST_DICT
+                           ? plist_dict_get_item(root->get(), "tamoDic")
+                           : nullptr;
+    if (!document) {
+        return refused(interchangeError(kWrongContent, QStringLiteral("It holds no document.")));
+    }
+    Result<Record*> imported;
+    {
+        UndoGroup group(*context, QStringLiteral("Import Document"));
+        imported = createManagedObjectFromDictionary(document, *context, "Invoice");
+    }
+    if (!imported) {
+        return refused(imported.error());
+    }
+    session_.documents().setSelection({*imported});
+    session_.saveContext();
+    return ActionResult::Done;
+}
+
+bool DataInterchange::openFile(const QString& path)
+{
+    qCInfo(lcInterchange).noquote() << "Asked to open" << path;
+    prompter_.ask({QStringLiteral("Tamo, Tamo Documents, and the Tamo Database"),
+                   QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the "
+                                  "database intact - please use the 'File Menu' to open documents "
+                                  "and to restore the Tamo database."),
+                   {QStringLiteral("OK")}});
+    return true;
+}
+
+}  // namespace tamo
