@@ -9,14 +9,6 @@
 
 namespace tamo {
 
-namespace key {
-// Edited in the preferences window; the numbering reads them at the moment of use.
-inline constexpr SettingKey invPattern{"invPattern", SettingType::Text};
-inline constexpr SettingKey quotPattern{"quotPattern", SettingType::Text};
-inline constexpr SettingKey clientPattern{"clientPattern", SettingType::Text};
-inline constexpr SettingKey clientCount{"clientCount", SettingType::Number};
-}  // namespace key
-
 // Numbers of new invoices, quotes and clients from the user's patterns. There is no running
 // counter: a number counts the documents the last statistics pass saw, plus an offset the user
 // (or the deletion of a document) raises. The date tokens take today from the clock.

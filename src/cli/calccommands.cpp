@@ -21,8 +21,6 @@ std::optional<Failure> recalcCommand(AppSession& session, const QStringList& arg
     if (!args.isEmpty()) {
         return Failure{QStringLiteral("usage: tamo recalc"), kUsageError};
     }
-    // The window applies these at start; the discount setting among them changes every total.
-    applyOneTimeUpdates(session.settings());
     Context& context = *session.context();
     {
         WithoutUndo withoutUndo(context);

@@ -230,6 +230,8 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     SystemClock clock;
     ConsolePrompter prompter(err, inv.assumeYes);
     AppSession session(profile, settings, clock, prompter);
+    // Commands see the settings as the window does after its start-up steps.
+    applyOneTimeUpdates(settings);
     if (command->needsStore && !session.managedObjectContext()) {
         return 1;  // the prompter has said why
     }

@@ -33,6 +33,10 @@ struct SettingKey {
     X(quotDefaultValidity, Number)                    \
     X(invCount, Number)                               \
     X(quotCount, Number)                              \
+    X(invPattern, Text)                               \
+    X(quotPattern, Text)                              \
+    X(clientPattern, Text)                            \
+    X(clientCount, Number)                            \
     X(locInvoice, Text)                               \
     X(locQuote, Text)                                 \
     X(locReminder, Text)                              \
