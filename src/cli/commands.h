@@ -2,11 +2,13 @@
 
 #include <QStringList>
 #include <QTextStream>
+#include <expected>
 #include <optional>
 
 namespace tamo {
 
 class AppSession;
+class Record;
 
 inline constexpr int kUsageError = 2;
 
@@ -15,6 +17,10 @@ struct Failure {
     QString message;
     int code = 1;
 };
+
+// The document a command names by its number or its uniqueID; a number two documents share is
+// refused, so that a command never acts on the wrong one.
+std::expected<Record*, Failure> findDocument(AppSession& session, const QString& numberOrID);
 
 // A command runs on an open session (the store is open when it needs one), writes its result to
 // `out` and returns a failure or nothing. The session saves after it.
