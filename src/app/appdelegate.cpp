@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "app/documenteditor.h"
+#include "app/filemenu.h"
 #include "app/mainwindow.h"
 
 // Resources compiled into a static library are registered by hand, or the linker drops them.
@@ -30,6 +31,10 @@ AppDelegate::AppDelegate(const Profile& profile)
                                 QCoreApplication::arguments().mid(1));
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     };
+    hooks.completeBackup = [this] {
+        return interchange_.backupCompleteTamoData() == ActionResult::Done;
+    };
+    installDataMenu(*window_, interchange_);
     window_->setCloseGuard([this] { return requestQuit(); });
 }
 
@@ -45,6 +50,8 @@ void AppDelegate::start()
         documents.setSelection({documents.at(0)});
     }
     session_.applicationDidFinishLaunching();
+    // The safety copy follows the start-up steps once the window is up.
+    QTimer::singleShot(0, this, [this] { interchange_.createBackup(); });
 }
 
 bool AppDelegate::requestQuit()

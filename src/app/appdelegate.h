@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/dialogprompter.h"
+#include "interchange/datainterchange.h"
 #include "model/appsession.h"
 #include "platform/clock.h"
 #include "settings/settings.h"
@@ -35,6 +36,7 @@ private:
     SystemClock clock_;
     DialogPrompter prompter_;
     AppSession session_;
+    DataInterchange interchange_{session_};
     std::unique_ptr<MainWindow> window_;
 };
 

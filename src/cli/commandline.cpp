@@ -150,6 +150,23 @@ const CommandEntry kCommands[] = {
     {u"generate-sample", true, generateSampleCommand},
     {u"recalc", true, recalcCommand},
     {u"next-number", true, nextNumberCommand},
+    {u"backup-invoices", true, backupInvoicesCommand},
+    {u"restore-invoices", true, restoreInvoicesCommand},
+    {u"backup-items", true, backupItemsCommand},
+    {u"restore-items", true, restoreItemsCommand},
+    {u"export-xml", true, exportXmlCommand},
+    {u"export-shown-xml", true, exportShownXmlCommand},
+    {u"backup-complete", true, backupCompleteCommand},
+    {u"restore-complete", false, restoreCompleteCommand},
+    {u"dump", true, dumpCommand},
+    {u"import-document", true, importDocumentCommand},
+    {u"export-raw", true, exportRawCommand},
+    {u"import-raw", true, importRawCommand},
+    {u"move-from-flatpak", false, moveFromFlatpakCommand},
+    {u"safety-copy", true, safetyCopyCommand},
+    {u"restore-safety-copy", true, restoreSafetyCopyCommand},
+    {u"recover", false, recoverCommand},
+    {u"open", false, openFileCommand},
 };
 
 }  // namespace
@@ -166,7 +183,17 @@ QString usage()
         "  settings get KEY | settings set KEY VALUE\n"
         "  generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]\n"
         "  recalc\n"
-        "  next-number invoice|quote|client\n");
+        "  next-number invoice|quote|client\n"
+        "  backup-invoices FILE | restore-invoices FILE   (XML property list, .tamoinvoices)\n"
+        "  backup-items FILE | restore-items FILE         (XML property list, .tamoitems)\n"
+        "  export-xml FILE | export-shown-xml FILE        (all invoices | the listed ones)\n"
+        "  backup-complete FILE | restore-complete FILE   (the store file, .tamo2db)\n"
+        "  dump FILE | import-document FILE               (keyed archives, .invdump | .tamo)\n"
+        "  export-raw FILE | import-raw FILE              (raw store copies, .sqlite)\n"
+        "  safety-copy [--at-start] | restore-safety-copy\n"
+        "  move-from-flatpak\n"
+        "  recover [SNAPSHOT]   (without SNAPSHOT: lists the recovery copies)\n"
+        "  open FILE\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)

@@ -37,4 +37,23 @@ std::optional<Failure> recalcCommand(AppSession& session, const QStringList& arg
 std::optional<Failure> nextNumberCommand(AppSession& session, const QStringList& args,
                                          QTextStream& out);
 
+// The data actions of the File menu (interchangecommands.cpp).
+std::optional<Failure> backupInvoicesCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> restoreInvoicesCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> backupItemsCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> restoreItemsCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> exportXmlCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> exportShownXmlCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> backupCompleteCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> restoreCompleteCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> dumpCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> importDocumentCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> exportRawCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> importRawCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> moveFromFlatpakCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> safetyCopyCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> recoverCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> openFileCommand(AppSession&, const QStringList&, QTextStream&);
+
 }  // namespace tamo

@@ -437,10 +437,12 @@ private:
 
     Result<Plist> decodeDecimal(plist_t object)
     {
+        // Out-of-range numbers become -1000, which every check below refuses.
         const auto integer = [&](const char* key) {
             plist_t node = plist_dict_get_item(object, key);
             const auto v = node ? valueFromPlist(node) : std::nullopt;
-            return v && v->isNumber() ? v->toInt() : 0;
+            const double d = v && v->isNumber() ? v->toDouble() : 0.0;
+            return d > -1000.0 && d < 1000.0 ? int(d) : -1000;
         };
         const int length = integer("NS.length");
         const int exponent = integer("NS.exponent");
