@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QLocale>
 
+#include "calc/totals.h"
 #include "cli/commands.h"
 #include "cli/consoleprompter.h"
 #include "cli/samplegenerator.h"
@@ -167,6 +168,14 @@ const CommandEntry kCommands[] = {
     {u"restore-safety-copy", true, restoreSafetyCopyCommand},
     {u"recover", false, recoverCommand},
     {u"open", false, openFileCommand},
+    {u"new-invoice", true, newInvoiceCommand},
+    {u"new-quote", true, newQuoteCommand},
+    {u"duplicate", true, duplicateCommand},
+    {u"convert", true, convertCommand},
+    {u"delete", true, deleteCommand},
+    {u"set-status", true, setStatusCommand},
+    {u"dispatch", true, dispatchCommand},
+    {u"filter", true, filterCommand},
 };
 
 }  // namespace
@@ -193,7 +202,11 @@ QString usage()
         "  safety-copy [--at-start] | restore-safety-copy\n"
         "  move-from-flatpak\n"
         "  recover [SNAPSHOT]   (without SNAPSHOT: lists the recovery copies)\n"
-        "  open FILE\n");
+        "  open FILE\n"
+        "  new-invoice | new-quote\n"
+        "  duplicate N [--with-items] | convert N | delete N [--adjust-counter]\n"
+        "  set-status N 0..4 [--paid-amount X] | dispatch N\n"
+        "  filter TAG [--json]   (0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent)\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)
@@ -259,8 +272,15 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     AppSession session(profile, settings, clock, prompter);
     // Commands see the settings as the window does after its start-up steps.
     applyOneTimeUpdates(settings);
-    if (command->needsStore && !session.managedObjectContext()) {
-        return 1;  // the prompter has said why
+    if (command->needsStore) {
+        Context* context = session.managedObjectContext();
+        if (!context) {
+            return 1;  // the prompter has said why
+        }
+        // The window runs the statistics pass when it lists the documents; numbering and the
+        // open/overdue states depend on it.
+        WithoutUndo automatic(*context);
+        Totals(session).calculateDatabase();
     }
     if (auto failure = command->run(session, args, out)) {
         return report(failure->message, failure->code);

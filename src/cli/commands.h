@@ -56,4 +56,14 @@ std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const QStringList&,
 std::optional<Failure> recoverCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> openFileCommand(AppSession&, const QStringList&, QTextStream&);
 
+// Documents: create, duplicate, convert, delete, status, dispatch, filters.
+std::optional<Failure> newInvoiceCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> newQuoteCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> duplicateCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> convertCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> deleteCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> setStatusCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> dispatchCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> filterCommand(AppSession&, const QStringList&, QTextStream&);
+
 }  // namespace tamo

@@ -4,8 +4,11 @@ namespace tamo {
 
 QString ConsolePrompter::ask(const Alert& alert)
 {
-    const QString answer =
+    QString answer =
         alert.buttons.isEmpty() ? QString() : (yes_ ? alert.buttons.first() : alert.buttons.last());
+    if (const auto preset = presets_.constFind(alert.title); preset != presets_.constEnd()) {
+        answer = *preset;
+    }
     err_ << alert.title << ": " << alert.text << " [" << answer << "]\n";
     err_.flush();
     return answer;

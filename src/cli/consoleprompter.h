@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QTextStream>
 
 #include "platform/prompter.h"
@@ -19,11 +20,15 @@ public:
     std::optional<QString> chooseFileToSave(const FileRequest& request) override;
 
     int errorCount() const { return errors_; }
+    // Answers the question with this title by `button`, whatever --yes says; a command's own
+    // flags decide such questions (delete --adjust-counter).
+    void presetAnswer(const QString& title, const QString& button) { presets_[title] = button; }
 
 private:
     QTextStream& err_;
     bool yes_;
     int errors_ = 0;
+    QHash<QString, QString> presets_;
 };
 
 }  // namespace tamo

@@ -12,10 +12,10 @@ std::expected<Record*, Failure> findDocument(AppSession& session, const QString&
         return std::unexpected(Failure{QStringLiteral("there is no document %1").arg(numberOrID)});
     }
     if (matches.size() > 1) {
-        return std::unexpected(Failure{
-            QStringLiteral("%1 documents are numbered %2; name one by its uniqueID")
-                .arg(matches.size())
-                .arg(numberOrID)});
+        return std::unexpected(
+            Failure{QStringLiteral("%1 documents are numbered %2; name one by its uniqueID")
+                        .arg(matches.size())
+                        .arg(numberOrID)});
     }
     return matches.front();
 }

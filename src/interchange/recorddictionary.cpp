@@ -71,6 +71,9 @@ Result<void> forEachEntry(plist_t dictionary, F&& f)
 
 Result<Value> attributeValue(plist_t node, std::string_view key, AttributeType type)
 {
+    if (type == AttributeType::String && plist_get_node_type(node) == PLIST_STRING) {
+        return Value(plistString(node));
+    }
     const auto raw = valueFromPlist(node);
     const auto wrong = [&] {
         return std::unexpected(
@@ -126,7 +129,12 @@ public:
                 attributeKey = key.substr(kDateKeyPrefix.size());
             }
             if (const int a = entity.attributeIndex(attributeKey); a >= 0) {
-                auto value = attributeValue(node, key, entity.attributes()[size_t(a)].type);
+                const AttributeType type = entity.attributes()[size_t(a)].type;
+                if (!record && type == AttributeType::String &&
+                    plist_get_node_type(node) == PLIST_STRING) {
+                    return {};  // text always fits a text attribute
+                }
+                auto value = attributeValue(node, key, type);
                 if (!value) {
                     return std::unexpected(value.error());
                 }

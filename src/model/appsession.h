@@ -37,13 +37,14 @@ public:
 
     // Filled in by the interface (or by tests) to reach what only it knows or can do.
     struct Hooks {
-        std::function<bool()> commitEditing;       // false when a pending edit is invalid
-        std::function<int()> selectedDesignIndex;  // position of the selected design
-        std::function<bool()> completeBackup;      // before the store moves; false stops
-        std::function<void()> loadBuiltInDesigns;  // once per installation
-        std::function<void()> showSetupAssistant;  // very first start
-        std::function<void()> showEinvoiceNotice;  // once
-        std::function<void()> relaunch;            // after the store moved
+        std::function<bool()> commitEditing;          // false when a pending edit is invalid
+        std::function<int()> selectedDesignIndex;     // position of the selected design
+        std::function<bool()> completeBackup;         // before the store moves; false stops
+        std::function<void()> loadBuiltInDesigns;     // once per installation
+        std::function<void()> showSetupAssistant;     // very first start
+        std::function<void()> showEinvoiceNotice;     // once
+        std::function<void()> relaunch;               // after the store moved
+        std::function<bool(const QString&)> openUrl;  // handed to another application
     };
 
     AppSession(Profile profile, Settings& settings, const Clock& clock, Prompter& prompter);

@@ -297,8 +297,10 @@ void Context::setValueAt(Record& r, int attribute, const Value& value)
     touch(r);
     Value old = std::exchange(slot, *stored);
     noteChange(r, Change::Updated);
-    record({[this, &r, attribute, old] { setValueAt(r, attribute, old); },
-            [this, &r, attribute, now = *stored] { setValueAt(r, attribute, now); }});
+    if (undo_.isEnabled()) {  // bulk loads skip building steps that would be dropped
+        record({[this, &r, attribute, old] { setValueAt(r, attribute, old); },
+                [this, &r, attribute, now = *stored] { setValueAt(r, attribute, now); }});
+    }
 }
 
 void Context::setTarget(Record& r, int relationship, Record* target)
@@ -310,8 +312,10 @@ void Context::setTarget(Record& r, int relationship, Record* target)
     }
     Step step(*this);
     applyTarget(r, relationship, now);
-    record({[this, &r, relationship, old] { applyTarget(r, relationship, old); },
-            [this, &r, relationship, now] { applyTarget(r, relationship, now); }});
+    if (undo_.isEnabled()) {
+        record({[this, &r, relationship, old] { applyTarget(r, relationship, old); },
+                [this, &r, relationship, now] { applyTarget(r, relationship, now); }});
+    }
 }
 
 void Context::applyTarget(Record& r, int relationship, qint64 target)

@@ -206,11 +206,23 @@ EntityDescription documentTemplate()
         "Template", std::move(a.list), {{"items", "Item", "template", true, DeleteRule::Cascade}}};
 }
 
+// A due-date notification waiting to be shown on the desktop.
+EntityDescription scheduledNotification()
+{
+    Attributes a;
+    a.add(T::String, {"uniqueID", "title", "subtitle", "informativeText"})
+        .add(T::Date, {"deliveryDate"})
+        .add(T::String, {"documentID"})
+        .add(T::Boolean, {"sound", "isDelivered"});
+    return {"ScheduledNotification", std::move(a.list), {}};
+}
+
 }  // namespace
 
 Model::Model()
-    : entities_{invoice(),    item(),           address(),         design(),
-                recentItem(), recentShipping(), documentTemplate()}
+    : entities_{invoice(),        item(),           address(),
+                design(),         recentItem(),     recentShipping(),
+                documentTemplate(), scheduledNotification()}
 {
 }
 

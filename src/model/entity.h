@@ -60,7 +60,7 @@ class Model {
 public:
     // Raised whenever the stored layout gains something; older stores are brought up to date
     // when they are opened.
-    static constexpr int kSchemaVersion = 2;
+    static constexpr int kSchemaVersion = 3;
 
     static const Model& tamo();
 

@@ -43,6 +43,18 @@ struct SettingKey {
     X(locSlip, Text)                                  \
     X(locShipping, Text)                              \
     X(locDiscount, Text)                              \
+    X(tempInvConditions, Text)                        \
+    X(tempInvFooter, Text)                            \
+    X(tempInvMisc, Text)                              \
+    X(tempQuotConditions, Text)                       \
+    X(tempQuotFooter, Text)                           \
+    X(tempQuotMisc, Text)                             \
+    X(tempRemConditions, Text)                        \
+    X(tempRemFooter, Text)                            \
+    X(tempRemMisc, Text)                              \
+    X(tempSlipConditions, Text)                       \
+    X(tempSlipFooter, Text)                           \
+    X(tempSlipMisc, Text)                             \
     X(markInvoiceAsSent, Boolean)                     \
     X(selectedDesign, Integer)                        \
     /* Taxes and totals */                            \
@@ -120,6 +132,7 @@ struct SettingKey {
     X(firstCenter, Boolean)                           \
     X(moveToApplicationsFolderAlertSuppress, Boolean) \
     X(prefsDeliverNotificationsWithSound, Boolean)    \
+    X(contactsLocation, Path)                         \
     /* end */
 
 namespace key {

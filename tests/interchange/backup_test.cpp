@@ -93,6 +93,20 @@ TEST_F(BackupTest, DecliningTheQuestionOrThePanelChangesNothing)
     EXPECT_TRUE(ops.recoverySnapshots().isEmpty());
 }
 
+TEST_F(BackupTest, AFileThatCannotBeWrittenIsReportedNotSkipped)
+{
+    user.queueFile(file(u"missing folder/Tamo Invoices.tamoinvoices"_qs));
+    EXPECT_EQ(ops.backupTamoData(), ActionResult::Failed);
+    EXPECT_TRUE(user.errors().last().message.contains(u"was not written"));
+
+    // libplist keeps a date's seconds in 32 bits: a date it cannot hold stops the write.
+    store().fetch("Invoice").front()->setValue("due", utc(2100, 1, 1));
+    user.queueFile(file(u"Tamo Invoices.tamoinvoices"_qs));
+    EXPECT_EQ(ops.backupTamoData(), ActionResult::Failed);
+    EXPECT_TRUE(user.errors().last().message.contains(u"“due”"));
+    EXPECT_FALSE(QFile::exists(file(u"Tamo Invoices.tamoinvoices"_qs)));
+}
+
 TEST_F(BackupTest, AnUnreadableRestoreFileIsExplainedAndTheRecoveryCopyBringsTheInvoicesBack)
 {
     ASSERT_TRUE(writeFileAtomically(file(u"broken.tamoinvoices"_qs), "<plist><array><dict>"));

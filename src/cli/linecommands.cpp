@@ -1,0 +1,1 @@
+// Commands for the lines and the client of a document.

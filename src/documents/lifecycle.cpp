@@ -1,0 +1,452 @@
+#include "documents/lifecycle.h"
+
+
+#include "calc/numbering.h"
+#include "calc/totals.h"
+#include "documents/notificationscheduler.h"
+#include "interchange/recorddictionary.h"
+
+namespace tamo {
+
+namespace {
+
+const QString kAlreadySentText = QStringLiteral(
+    "The selected invoice is marked as already sent. If you really need to make changes, please "
+    "set its status back to 'Created' first. Then you will also be able to resend the modified "
+    "invoice.");
+
+// New documents take their rates as the settings hold them, through single precision.
+double fromSingle(double value)
+{
+    return double(float(value));
+}
+
+}  // namespace
+
+DocumentLifecycle::DocumentLifecycle(AppSession& session, NotificationScheduler* scheduler)
+    : session_(session), scheduler_(scheduler)
+{
+}
+
+bool DocumentLifecycle::isCurrentInvoiceSent() const
+{
+    const Record* d = currentInvoice();
+    return d && d->integer("status") > 0;
+}
+
+bool DocumentLifecycle::refuseChangesToSentDocument() const
+{
+    if (!isCurrentInvoiceSent()) {
+        return false;
+    }
+    session_.prompter().ask({QStringLiteral("Error!"), kAlreadySentText, {QStringLiteral("OK")}});
+    return true;
+}
+
+QDateTime DocumentLifecycle::futureDateFromTodayWithDays(int choice, const QDateTime& now)
+{
+    switch (choice) {
+    case 1:
+        return now.addDays(14);
+    case 2:
+        return now.addDays(21);
+    case 3:
+        return now.addDays(28);
+    default:
+        return now.addDays(7);
+    }
+}
+
+void DocumentLifecycle::setFilterTag(int tag)
+{
+    filterTag_ = tag;
+    emit filterChanged(tag);
+}
+
+Record* DocumentLifecycle::newDocument(bool invoice)
+{
+    Context* context = session_.context();
+    if (!context) {
+        return nullptr;
+    }
+    Settings& s = session_.settings();
+    const QDateTime now = session_.clock().now();
+    const Numbering numbering(session_);
+    // The filter button shows "all" again; the filter itself stays until the person changes it.
+    setFilterTag(0);
+    Record* d = nullptr;
+    {
+        UndoGroup group(*context, invoice ? tr("New Invoice") : tr("New Quote"));
+        if (invoice) {
+            s.set(key::isFirstInvoiceEverCreated, true);
+        }
+        d = context->insert("Invoice");
+        if (invoice) {
+            d->setValue("number", s.boolean(key::invHaveNumber) ? numbering.invoiceNumberString()
+                                                                : QString());
+        } else {
+            d->setValue("number",
+                        s.boolean(key::quotHaveNumber) ? numbering.quoteNumberString() : QString());
+        }
+        d->setValue("address", QString());
+        d->setValue("title", s.string(invoice ? key::locInvoice : key::locQuote));
+        if (invoice) {
+            d->setValue("subject", QString());
+        }
+        d->setValue("conditions",
+                    s.string(invoice ? key::tempInvConditions : key::tempQuotConditions));
+        d->setValue("footer", s.string(invoice ? key::tempInvFooter : key::tempQuotFooter));
+        d->setValue("misc1", s.string(invoice ? key::tempInvMisc : key::tempQuotMisc));
+        for (const char* k : {"notes", "dispatchNumber", "clientNumber", "shippingTitle",
+                              "shippingSubtitle", "discountTitle", "discountSubtitle"}) {
+            d->setValue(k, QString());
+        }
+        if (invoice) {
+            for (const char* k : {"invoiceMisc2", "customerTitle", "customerName", "customerVATID",
+                                  "miscString1", "miscString2", "miscString3"}) {
+                d->setValue(k, QString());
+            }
+        }
+        d->setValue("currency", s.string(key::prefsCurrency));
+        const bool hasDue = s.boolean(invoice ? key::invHaveDueDate : key::quotHaveValidity);
+        const int period = s.integer(invoice ? key::invDefaultDueDate : key::quotDefaultValidity);
+        d->setValue("due", hasDue ? futureDateFromTodayWithDays(period, now) : now);
+        for (const char* k : {"date", "paid", "sent", "dispatched"}) {
+            d->setValue(k, now);
+        }
+        d->setValue("kind", invoice ? 1 : 0);
+        for (const char* k : {"status", "discountKind", "tax1Kind", "tax2Kind", "tax3Kind"}) {
+            d->setValue(k, 0);
+        }
+        d->setValue("isDispatched", false);
+        for (const char* k : {"amount", "subAmount", "paidAmount", "dueAmount", "shippingAmount",
+                              "discountAmount", "tax1Amount", "tax2Amount", "tax3Amount"}) {
+            d->setValue(k, fromSingle(0));
+        }
+        d->setValue("tax1Percent", fromSingle(s.real(key::tax1Rate)));
+        d->setValue("tax2Percent", fromSingle(s.real(key::tax2Rate)));
+        d->setValue("tax3Percent", fromSingle(s.real(key::tax3Rate)));
+        d->setValue("misc2", 0);
+        d->setValue("misc3", fromSingle(0));
+        d->setValue("misc4", false);
+        d->setValue("misc5", now);
+        if (!invoice) {
+            // A quote's client fields are cleared after its amounts.
+            for (const char* k : {"customerTitle", "customerName", "customerVATID", "miscString1",
+                                  "miscString2", "miscString3"}) {
+                d->setValue(k, QString());
+            }
+        }
+    }
+    refreshStatistics();  // the new document counts for the next number
+    session_.documents().setSelection({d});
+    emit documentCreated(d);
+    session_.saveContext();
+    return d;
+}
+
+Record* DocumentLifecycle::addInvoice()
+{
+    return newDocument(true);
+}
+
+Record* DocumentLifecycle::addQuote()
+{
+    return newDocument(false);
+}
+
+Record* DocumentLifecycle::duplicateInvoice(bool withItems)
+{
+    Record* source = currentInvoice();
+    Context* context = session_.context();
+    if (!source || !context) {
+        return nullptr;
+    }
+    Settings& s = session_.settings();
+    const QDateTime now = session_.clock().now();
+    setFilterTag(0);
+    Record* copy = nullptr;
+    {
+        UndoGroup group(*context, tr("Duplicate"));
+        copy = cloneBySkippingAttributes(
+            *source, {u"number"_qs, u"dispatchNumber"_qs, u"uniqueID"_qs, u"status"_qs, u"sent"_qs,
+                      u"paid"_qs, u"due"_qs, u"date"_qs, u"isDispatched"_qs, u"items"_qs,
+                      u"dueAmount"_qs, u"paidAmount"_qs, u"dispatched"_qs});
+        if (withItems) {
+            // Copied lines keep their time of entry, and with it their order.
+            for (Record* line : std::vector<Record*>(source->toMany("items"))) {
+                cloneBySkippingAttributes(*line, {u"uniqueID"_qs})->setToOne("invoice", copy);
+            }
+        }
+        // Numbered as an invoice, also when a quote is duplicated.
+        copy->setValue("number", s.boolean(key::invHaveNumber)
+                                     ? Numbering(session_).invoiceNumberString()
+                                     : QString());
+        copy->setValue("due",
+                       s.boolean(key::invHaveDueDate)
+                           ? futureDateFromTodayWithDays(s.integer(key::invDefaultDueDate), now)
+                           : now);
+        copy->setValue("dispatchNumber", QString());
+        for (const char* k : {"date", "paid", "sent", "dispatched"}) {
+            copy->setValue(k, now);
+        }
+        copy->setValue("status", 0);
+        copy->setValue("paidAmount", 0.0);
+        copy->setValue("dueAmount", 0.0);
+        copy->setValue("isDispatched", false);
+    }
+    refreshStatistics();
+    session_.documents().setSelection({copy});
+    emit documentCreated(copy);
+    session_.saveContext();
+    return copy;
+}
+
+bool DocumentLifecycle::convertQuoteToInvoice()
+{
+    Record* d = currentInvoice();
+    if (!d || !session_.context()) {
+        return false;
+    }
+    Prompter& prompter = session_.prompter();
+    if (d->integer("kind") == 1) {
+        prompter.ask({QStringLiteral("Sorry!"),
+                      QStringLiteral("You can't convert an invoice into a quote."),
+                      {QStringLiteral("OK")}});
+        return false;
+    }
+    const QString convert = QStringLiteral("Convert");
+    if (prompter.ask({QStringLiteral("Convert Into Invoice"),
+                      QStringLiteral("Do you really want to convert the selected quote into an "
+                                     "invoice? This will also change the title, the boilerplate "
+                                     "text, the counter for your invoice numbering, and you can't "
+                                     "undo this action."),
+                      {convert, QStringLiteral("Cancel")}}) != convert) {
+        return false;
+    }
+    Settings& s = session_.settings();
+    const QDateTime now = session_.clock().now();
+    setFilterTag(0);
+    {
+        UndoGroup group(*session_.context(), tr("Convert Into Invoice"));
+        d->setValue("kind", 1);
+        Totals(session_).calculateDatabase();  // so that the converted quote counts already
+        d->setValue("due", s.boolean(key::invHaveDueDate)
+                               ? futureDateFromTodayWithDays(s.integer(key::invDefaultDueDate), now)
+                               : now);
+        d->setValue("number", s.boolean(key::invHaveNumber)
+                                  ? Numbering(session_).convertedInvoiceNumberString()
+                                  : QString());
+        d->setValue("title", s.string(key::locInvoice));
+        d->setValue("conditions", s.string(key::tempInvConditions));
+        d->setValue("footer", s.string(key::tempInvFooter));
+        d->setValue("misc1", s.string(key::tempInvMisc));
+    }
+    session_.documents().rearrange();
+    session_.saveContext();
+    return true;
+}
+
+bool DocumentLifecycle::deleteInvoice()
+{
+    Record* d = currentInvoice();
+    if (!d || !session_.context()) {
+        return false;
+    }
+    Prompter& prompter = session_.prompter();
+    const bool quote = d->integer("kind") == 0;
+    if (!quote && d->integer("status") > 0) {
+        prompter.ask(
+            {QStringLiteral("Error!"),
+             QStringLiteral("The selected invoice is marked as already sent. If you really "
+                            "need to delete it, please set its status back to 'Created' "
+                            "first."),
+             {QStringLiteral("OK")}});
+        return false;
+    }
+    const QString remove = QStringLiteral("Delete");
+    const Alert question =
+        quote ? Alert{QStringLiteral("Delete Quote"),
+                      QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you "
+                                     "really want to delete the selected quote?"),
+                      {remove, QStringLiteral("Cancel")}}
+              : Alert{QStringLiteral("Delete Invoice"),
+                      QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you "
+                                     "really want to delete the selected invoice?"),
+                      {remove, QStringLiteral("Cancel")}};
+    if (prompter.ask(question) != remove) {
+        return false;
+    }
+    setFilterTag(0);
+    {
+        UndoGroup group(*session_.context(), quote ? tr("Delete Quote") : tr("Delete Invoice"));
+        session_.context()->remove(d);
+    }
+    refreshStatistics();
+    session_.saveContext();
+
+    const QString adjust = QStringLiteral("Adjust Counter");
+    const QString what = quote ? QStringLiteral("quote") : QStringLiteral("invoice");
+    if (prompter.ask({adjust,
+                      QStringLiteral("Do you want Tamo to automatically adjust your %1 counter so "
+                                     "that you won't use the same %1 number twice?")
+                          .arg(what),
+                      {adjust, QStringLiteral("Cancel")}}) == adjust) {
+        quote ? Numbering(session_).raiseQuoteCounter() : Numbering(session_).raiseInvoiceCounter();
+    }
+    return true;
+}
+
+void DocumentLifecycle::setDispatched()
+{
+    Record* d = currentInvoice();
+    if (!d || !session_.context()) {
+        return;
+    }
+    {
+        UndoGroup group(*session_.context(), tr("Set Delivery Date"));
+        d->setValue("dispatched", session_.clock().now());
+    }
+    emit dispatchDateSet(d);
+    session_.saveContext();
+}
+
+QString DocumentLifecycle::deleteActionTitle() const
+{
+    const Record* d = currentInvoice();
+    return d && d->integer("kind") == 0 ? tr("Delete Quote") : tr("Delete Invoice");
+}
+
+Predicate DocumentLifecycle::filterPredicate(int tag, const QDateTime& now)
+{
+    const auto since = [now](qint64 seconds) -> Predicate {
+        const QDateTime from = now.addSecs(-seconds);
+        return [from, now](const Record& r) {
+            const QDateTime date = r.date("date");
+            return date.isValid() && date >= from && date <= now;
+        };
+    };
+    switch (tag) {
+    case 0:
+        return {};
+    case 2:
+        // As the filter was always written: "kind == 1 AND status == 2 OR status == 4", so
+        // partially paid quotes are listed too.
+        return [](const Record& r) {
+            return (r.integer("kind") == 1 && r.integer("status") == 2) || r.integer("status") == 4;
+        };
+    case 3:
+        return [](const Record& r) { return r.integer("kind") == 1 && r.integer("status") == 3; };
+    case 4:
+        return [](const Record& r) { return r.integer("kind") == 0; };
+    case 5:
+        return since(43'200);
+    case 6:
+        return since(302'400);
+    case 7:
+        return since(1'339'200);
+    case 8:
+        return since(15'768'000);
+    default:  // 1 and anything unknown: open invoices
+        return [](const Record& r) { return r.integer("kind") == 1 && r.integer("status") == 1; };
+    }
+}
+
+void DocumentLifecycle::selectFilter(int tag)
+{
+    setFilterTag(tag);
+    session_.documents().setFilter(filterPredicate(tag, session_.clock().now()));
+    refreshStatistics();
+}
+
+// The list is re-arranged when an action's undo group closes; its counts follow then. Like every
+// pass the window runs on its own, this one is no step to undo: it follows the clock.
+void DocumentLifecycle::refreshStatistics()
+{
+    if (Context* context = session_.context()) {
+        WithoutUndo automatic(*context);
+        Totals(session_).calculateDatabase();
+    }
+}
+
+void DocumentLifecycle::filterForInvoice(const QString& uniqueID)
+{
+    DocumentList& list = session_.documents();
+    list.setFilter([uniqueID](const Record& r) { return r.uniqueID() == uniqueID; });
+    if (list.size() > 0) {
+        list.setSelection({list.at(0)});
+    }
+    refreshStatistics();
+    setFilterTag(99);
+}
+
+QString DocumentLifecycle::filterImageName() const
+{
+    return filterTag_ != 0 ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate");
+}
+
+SheetTexts DocumentLifecycle::reminderSheetTexts() const
+{
+    const Settings& s = session_.settings();
+    return {s.string(key::locReminder), s.string(key::tempRemConditions),
+            s.string(key::tempRemMisc), s.string(key::tempRemFooter)};
+}
+
+SheetTexts DocumentLifecycle::slipSheetTexts() const
+{
+    const Settings& s = session_.settings();
+    return {s.string(key::locSlip), s.string(key::tempSlipConditions), s.string(key::tempSlipMisc),
+            s.string(key::tempSlipFooter)};
+}
+
+bool DocumentLifecycle::openNotificationSheet()
+{
+    const Record* d = currentInvoice();
+    if (!d) {
+        return false;
+    }
+    if (!d->boolean("misc4")) {
+        return true;
+    }
+    return session_.prompter().ask(
+               {QStringLiteral("Notification Already Created"),
+                QStringLiteral("You've already created a notification for this invoice. Do you "
+                               "really want to create another one?"),
+                {QStringLiteral("OK"), QStringLiteral("Cancel")}}) != u"Cancel";
+}
+
+NotificationRequest DocumentLifecycle::prepareNotification() const
+{
+    const Record* d = currentInvoice();
+    if (!d) {
+        return {};
+    }
+    NotificationRequest r;
+    r.title = QStringLiteral("%1 - %2").arg(d->string("title"), d->string("number"));
+    r.subtitle = d->string("address").section(u'\n', 0, 0);
+    const QDate day = d->date("due").toLocalTime().date().addDays(3);
+    r.deliveryDate = day.startOfDay();
+    return r;
+}
+
+void DocumentLifecycle::sendNotification(const NotificationRequest& request)
+{
+    Record* d = currentInvoice();
+    if (!d || !session_.context()) {
+        return;
+    }
+    {
+        UndoGroup group(*session_.context(), tr("Schedule Notification"));
+        if (scheduler_) {
+            scheduler_->schedule(
+                request, *d, session_.settings().boolean(key::prefsDeliverNotificationsWithSound));
+        }
+        d->setValue("misc4", true);
+    }
+    session_.saveContext();
+    if (scheduler_) {
+        scheduler_->deliverDue();
+    }
+}
+
+}  // namespace tamo

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QString>
+
+#include "model/appsession.h"
+
+namespace tamo {
+
+class NotificationScheduler;
+
+// The four texts of a reminder or a delivery slip, edited in their sheet and used only for the
+// rendering; nothing of them is written to the document.
+struct SheetTexts {
+    QString title;
+    QString conditions;
+    QString miscellaneous;
+    QString footer;
+};
+
+// What the due-date notification sheet shows and schedules.
+struct NotificationRequest {
+    QString title;
+    QString subtitle;
+    QString informativeText;
+    QDateTime deliveryDate;
+};
+
+// The life of one document: creating invoices and quotes, duplicating, converting, deleting,
+// dispatching, the list filters, the reminder and slip texts and the due-date notification. Each
+// operation acts on the current document (the first selected of the list), asks through the
+// session's prompter, is one undo step, and ends with the totals and a save.
+class DocumentLifecycle : public QObject {
+    Q_OBJECT
+
+public:
+    explicit DocumentLifecycle(AppSession& session, NotificationScheduler* scheduler = nullptr);
+
+    Record* currentInvoice() const { return session_.documents().current(); }
+    bool isCurrentInvoiceSent() const;
+    // The guard of every editing action: shows the "already sent" alert and returns true when
+    // the current document may not be changed.
+    bool refuseChangesToSentDocument() const;
+
+    Record* addInvoice();
+    Record* addQuote();
+    // With lines when `withItems`; the copy is numbered as an invoice whatever it is.
+    Record* duplicateInvoice(bool withItems);
+    bool convertQuoteToInvoice();
+    bool deleteInvoice();
+    void setDispatched();
+    // "Delete Invoice" or "Delete Quote", after the current document.
+    QString deleteActionTitle() const;
+
+    // Today plus 14, 21 or 28 days for the choices 1, 2, 3, and plus 7 for any other.
+    static QDateTime futureDateFromTodayWithDays(int choice, const QDateTime& now);
+
+    int filterTag() const { return filterTag_; }
+    // Applies the filter of that tag to the list, then the statistics pass.
+    void selectFilter(int tag);
+    void openFilterPopover() { selectFilter(0); }
+    // Shows exactly the document with that uniqueID (tag 99).
+    void filterForInvoice(const QString& uniqueID);
+    QString filterImageName() const;
+    static Predicate filterPredicate(int tag, const QDateTime& now);
+
+    SheetTexts reminderSheetTexts() const;
+    SheetTexts slipSheetTexts() const;
+
+    // False when a notification exists and the person does not want another.
+    bool openNotificationSheet();
+    NotificationRequest prepareNotification() const;
+    void sendNotification(const NotificationRequest& request);
+
+signals:
+    // A new document is in the list and selected; the window turns to its client.
+    void documentCreated(tamo::Record* document);
+    void dispatchDateSet(tamo::Record* document);
+    void filterChanged(int tag);
+
+private:
+    Record* newDocument(bool invoice);
+    void setFilterTag(int tag);
+    void refreshStatistics();
+
+    AppSession& session_;
+    NotificationScheduler* scheduler_;
+    int filterTag_ = 0;
+};
+
+}  // namespace tamo
