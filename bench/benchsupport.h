@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QString>
+#include <QStringList>
 #include <algorithm>
 #include <functional>
 #include <vector>
@@ -20,6 +21,14 @@ inline double medianMs(int runs, const std::function<void()>& work)
     }
     std::sort(times.begin(), times.end());
     return times[times.size() / 2];
+}
+
+// The value after `option` among the program's arguments, or `fallback`.
+inline QString optionValue(const QStringList& args, const QString& option,
+                           const QString& fallback = {})
+{
+    const auto at = args.indexOf(option);
+    return at >= 0 && at + 1 < args.size() ? args[at + 1] : fallback;
 }
 
 // Peak resident memory of this process so far, in MiB.

@@ -60,11 +60,8 @@ int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
-    QString store =
-        args.contains(u"--store"_qs) ? args.value(args.indexOf(u"--store"_qs) + 1) : QString();
-    const int runs =
-        args.contains(u"--runs"_qs) ? args.value(args.indexOf(u"--runs"_qs) + 1).toInt() : 3;
-
+    QString store = bench::optionValue(args, u"--store"_qs);
+    const int runs = bench::optionValue(args, u"--runs"_qs, u"3"_qs).toInt();
     QTemporaryDir temporary;
     if (store.isEmpty()) {
         store = temporary.filePath(u"profile"_qs);

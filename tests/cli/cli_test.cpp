@@ -3,6 +3,7 @@
 #include <QJsonObject>
 
 #include "cli/commandline.h"
+#include "support/commandrunner.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -10,27 +11,13 @@ using namespace tamo::test;
 
 namespace {
 
-struct Outcome {
-    int code;
-    QString out;
-    QString err;
-};
+using Outcome = CommandOutcome;
 
 class CommandLineTest : public ::testing::Test {
 protected:
     TempProfile dir;
 
-    Outcome tamo(const QStringList& words)
-    {
-        QString out, err;
-        QTextStream o(&out), e(&err);
-        const int code = runCommand(
-            parseInvocation(QStringList{u"tamo"_qs, u"--store"_qs, dir.path(u"store"_qs)} + words),
-            o, e);
-        o.flush();
-        e.flush();
-        return {code, out, err};
-    }
+    Outcome tamo(const QStringList& words) { return runTamo(dir.path(u"store"_qs), words); }
 };
 
 TEST_F(CommandLineTest, GeneratedDocumentsAreListedNewestFirst)

@@ -2,6 +2,7 @@
 
 #include "cli/commandline.h"
 #include "cli/commands.h"
+#include "support/commandrunner.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -15,14 +16,8 @@ protected:
 
     std::pair<int, QString> tamo(const QStringList& words)
     {
-        QString out, err;
-        QTextStream o(&out), e(&err);
-        const int code = runCommand(
-            parseInvocation(QStringList{u"tamo"_qs, u"--store"_qs, dir.path(u"store"_qs)} + words),
-            o, e);
-        o.flush();
-        e.flush();
-        return {code, out + err};
+        const CommandOutcome run = runTamo(dir.path(u"store"_qs), words);
+        return {run.code, run.out + run.err};
     }
     QString count()
     {
