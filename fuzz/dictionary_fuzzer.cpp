@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     }
     tamo::Context& store = context();
     if (plist_get_node_type(parsed->get()) == PLIST_ARRAY) {
-        (void)tamo::createManagedObjectsFromList(parsed->get(), store, "Invoice");
+        (void)tamo::createManagedObjectsFromList(std::move(*parsed), store, "Invoice");
     } else {
         auto created = tamo::createManagedObjectFromDictionary(parsed->get(), store);
         if (created) {

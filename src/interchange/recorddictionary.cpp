@@ -348,9 +348,10 @@ Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& c
     return DictionaryWalker(&context).create(*entity, dictionary, 0);
 }
 
-Result<std::vector<Record*>> createManagedObjectsFromList(plist_t list, Context& context,
+Result<std::vector<Record*>> createManagedObjectsFromList(Plist owned, Context& context,
                                                           std::string_view entityName)
 {
+    plist_t list = owned.get();
     if (plist_get_node_type(list) != PLIST_ARRAY) {
         return std::unexpected(
             dictionaryError(QStringLiteral("It holds %1 where a list of records belongs.")
@@ -367,11 +368,12 @@ Result<std::vector<Record*>> createManagedObjectsFromList(plist_t list, Context&
     created.reserve(count);
     DictionaryWalker walker(&context);
     for (uint32_t i = 0; i < count; ++i) {
-        auto record = walker.create(entity, plist_array_get_item(list, i), 0);
+        auto record = walker.create(entity, plist_array_get_item(list, 0), 0);
         if (!record) {
             return std::unexpected(record.error());
         }
         created.push_back(*record);
+        plist_array_remove_item(list, 0);
     }
     return created;
 }

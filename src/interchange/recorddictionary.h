@@ -38,8 +38,9 @@ Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& c
 Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& context,
                                                   std::string_view entity);
 // Every dictionary of `list` as a record of `entity`, whatever its "class" says; all of them are
-// checked before the first is inserted.
-Result<std::vector<Record*>> createManagedObjectsFromList(plist_t list, Context& context,
+// checked before the first is inserted. Each dictionary is freed as soon as its record exists, so
+// that the records of a large file reuse its memory.
+Result<std::vector<Record*>> createManagedObjectsFromList(Plist list, Context& context,
                                                           std::string_view entity);
 Result<void> populateFromDictionary(Record& record, plist_t dictionary);
 // Checks without inserting.

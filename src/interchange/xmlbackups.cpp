@@ -205,7 +205,7 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
         auto list = readPlistFile(path);
         if (!list) {
             outcome = std::unexpected(list.error());
-        } else if (auto created = createManagedObjectsFromList(list->get(), context, entity);
+        } else if (auto created = createManagedObjectsFromList(std::move(*list), context, entity);
                    !created) {
             outcome = std::unexpected(created.error());
         }
