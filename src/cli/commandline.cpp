@@ -176,6 +176,8 @@ const CommandEntry kCommands[] = {
     {u"set-status", true, setStatusCommand},
     {u"dispatch", true, dispatchCommand},
     {u"filter", true, filterCommand},
+    {u"add-item", true, addItemCommand},
+    {u"set-client", true, setClientCommand},
 };
 
 }  // namespace
@@ -206,7 +208,10 @@ QString usage()
         "  new-invoice | new-quote\n"
         "  duplicate N [--with-items] | convert N | delete N [--adjust-counter]\n"
         "  set-status N 0..4 [--paid-amount X] | dispatch N\n"
-        "  filter TAG [--json]   (0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent)\n");
+        "  filter TAG [--json]   (0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent)\n"
+        "  add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT]\n"
+        "           [--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]\n"
+        "  set-client N (--vcard FILE [--index I] | --remembered ID)   (I counts from 0)\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)

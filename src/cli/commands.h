@@ -21,6 +21,9 @@ struct Failure {
 // The document a command names by its number or its uniqueID; a number two documents share is
 // refused, so that a command never acts on the wrong one.
 std::expected<Record*, Failure> findDocument(AppSession& session, const QString& numberOrID);
+// The same, made the current document, as selecting its row in the window does: the operations
+// act on the current document.
+std::expected<Record*, Failure> selectDocument(AppSession& session, const QString& numberOrID);
 
 // A command runs on an open session (the store is open when it needs one), writes its result to
 // `out` and returns a failure or nothing. The session saves after it.
@@ -55,6 +58,10 @@ std::optional<Failure> safetyCopyCommand(AppSession&, const QStringList&, QTextS
 std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> recoverCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> openFileCommand(AppSession&, const QStringList&, QTextStream&);
+
+// Lines and clients of a document (linecommands.cpp).
+std::optional<Failure> addItemCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> setClientCommand(AppSession&, const QStringList&, QTextStream&);
 
 // Documents: create, duplicate, convert, delete, status, dispatch, filters.
 std::optional<Failure> newInvoiceCommand(AppSession&, const QStringList&, QTextStream&);

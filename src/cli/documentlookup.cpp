@@ -20,4 +20,13 @@ std::expected<Record*, Failure> findDocument(AppSession& session, const QString&
     return matches.front();
 }
 
+std::expected<Record*, Failure> selectDocument(AppSession& session, const QString& numberOrID)
+{
+    auto document = findDocument(session, numberOrID);
+    if (document) {
+        session.documents().setSelection({*document});
+    }
+    return document;
+}
+
 }  // namespace tamo

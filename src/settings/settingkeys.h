@@ -61,6 +61,9 @@ struct SettingKey {
     X(tax1Rate, Real)                                 \
     X(tax2Rate, Real)                                 \
     X(tax3Rate, Real)                                 \
+    X(tax1Title, Text)                                \
+    X(tax2Title, Text)                                \
+    X(tax3Title, Text)                                \
     X(tax1Enabled, Boolean)                           \
     X(tax2Enabled, Boolean)                           \
     X(tax3Enabled, Boolean)                           \
