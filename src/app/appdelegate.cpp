@@ -1,26 +1,22 @@
 #include "app/appdelegate.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QProcess>
 #include <QTimer>
+#include <QUrl>
 
-#include "app/documenteditor.h"
+#include "app/editor/documenteditor.h"
 #include "app/filemenu.h"
 #include "app/mainwindow.h"
-
-// Resources compiled into a static library are registered by hand, or the linker drops them.
-static void initResources()
-{
-    Q_INIT_RESOURCE(stamps);
-}
 
 namespace tamo {
 
 AppDelegate::AppDelegate(const Profile& profile)
-    : profile_((initResources(), profile)),
+    : profile_(profile),
       settings_(profile.settingsFile),
       session_(profile, settings_, clock_, prompter_),
-      window_(std::make_unique<MainWindow>(session_))
+      window_(std::make_unique<MainWindow>(session_, operations_))
 {
     prompter_.setParentWindow(window_.get());
     AppSession::Hooks& hooks = session_.hooks();
@@ -34,8 +30,11 @@ AppDelegate::AppDelegate(const Profile& profile)
     hooks.completeBackup = [this] {
         return interchange_.backupCompleteTamoData() == ActionResult::Done;
     };
+    hooks.openUrl = [](const QString& url) { return QDesktopServices::openUrl(QUrl(url)); };
     installDataMenu(*window_, interchange_);
     window_->setCloseGuard([this] { return requestQuit(); });
+    connect(&scheduler_, &NotificationScheduler::documentActivated, this,
+            &AppDelegate::showNotifiedDocument);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -50,8 +49,18 @@ void AppDelegate::start()
         documents.setSelection({documents.at(0)});
     }
     session_.applicationDidFinishLaunching();
+    // Notifications whose time passed while Tamo was closed are shown now.
+    scheduler_.deliverDue();
     // The safety copy follows the start-up steps once the window is up.
     QTimer::singleShot(0, this, [this] { interchange_.createBackup(); });
+}
+
+void AppDelegate::showNotifiedDocument(const QString& uniqueID)
+{
+    window_->showNormal();
+    window_->raise();
+    window_->activateWindow();
+    operations_.lifecycle.filterForInvoice(uniqueID);
 }
 
 bool AppDelegate::requestQuit()

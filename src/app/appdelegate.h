@@ -4,17 +4,21 @@
 #include <memory>
 
 #include "app/dialogprompter.h"
+#include "app/documentoperations.h"
+#include "documents/notificationscheduler.h"
 #include "interchange/datainterchange.h"
 #include "model/appsession.h"
 #include "platform/clock.h"
+#include "platform/notifications.h"
 #include "settings/settings.h"
 
 namespace tamo {
 
 class MainWindow;
 
-// Composes the application: the session of the core, the window over it, and the hooks through
-// which the core reaches the interface.
+// Composes the application: the session of the core, the document operations with the due-date
+// notifications, the window over them, and the hooks through which the core reaches the
+// interface.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -24,6 +28,7 @@ public:
 
     AppSession& session() { return session_; }
     MainWindow& window() { return *window_; }
+    DocumentOperations& operations() { return operations_; }
 
     // Opens the store and the window and runs the start-up steps.
     void start();
@@ -31,12 +36,18 @@ public:
     bool requestQuit();
 
 private:
+    // A click on a due-date notification: the window comes forward with that document alone.
+    void showNotifiedDocument(const QString& uniqueID);
+
     Profile profile_;
     Settings settings_;
     SystemClock clock_;
     DialogPrompter prompter_;
     AppSession session_;
     DataInterchange interchange_{session_};
+    DesktopNotificationService notificationService_;
+    NotificationScheduler scheduler_{session_, notificationService_};
+    DocumentOperations operations_{session_, &scheduler_};
     std::unique_ptr<MainWindow> window_;
 };
 

@@ -29,12 +29,14 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(QStringLiteral("Tamo"));
     QApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
     QApplication::setDesktopFileName(QString::fromLatin1(tamo::kApplicationId));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/stamps/Stamp3")));
+    // Without a desktop that names an icon theme, the toolbar still finds its icons.
+    QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
 
     const tamo::Profile profile = invocation.storeDirectory.isEmpty()
                                       ? tamo::Profile::standard()
                                       : tamo::Profile::inDirectory(invocation.storeDirectory);
     tamo::AppDelegate delegate(profile);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/stamps/Stamp3.svg")));
     delegate.start();
     return QApplication::exec();
 }

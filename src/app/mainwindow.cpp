@@ -7,17 +7,23 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTableView>
-#include <QToolBar>
 
-#include "app/documenteditor.h"
+#include "app/documentoperations.h"
 #include "app/documenttablemodel.h"
+#include "app/editor/documenteditor.h"
 #include "calc/numberformat.h"
 #include "calc/totals.h"
 #include "model/appsession.h"
+
+// Resources compiled into a static library are registered by hand, or the linker drops them.
+static void initWindowResources()
+{
+    Q_INIT_RESOURCE(stamps);
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace tamo {
 
@@ -26,20 +32,34 @@ namespace {
 constexpr SettingKey kWindowGeometry{"windowGeometry", SettingType::Object};
 constexpr SettingKey kWindowState{"windowState", SettingType::Object};
 constexpr SettingKey kDocumentTableHeader{"documentTableHeader", SettingType::Object};
+constexpr SettingKey kSplitterState{"mainSplitter", SettingType::Object};
 }  // namespace
 
+MainWindow::MainWindow(AppSession& session, DocumentOperations& operations, QWidget* parent)
+    : MainWindow(session, nullptr, &operations, parent)
+{
+}
+
 MainWindow::MainWindow(AppSession& session, QWidget* parent)
+    : MainWindow(session, std::make_unique<DocumentOperations>(session), nullptr, parent)
+{
+}
+
+MainWindow::MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> own,
+                       DocumentOperations* operations, QWidget* parent)
     : QMainWindow(parent),
-      session_(session),
+      session_((initWindowResources(), session)),
+      ownOperations_(std::move(own)),
+      operations_(operations ? *operations : *ownOperations_),
       model_(new DocumentTableModel(session.documents(), this)),
       table_(new QTableView(this)),
       search_(new QLineEdit(this)),
-      editor_(new DocumentEditor(session, this)),
+      editor_(new DocumentEditor(session, operations_, this)),
       summary_(new QLabel(this))
 {
-    setWindowTitle(QStringLiteral("Tamo[*]"));
     setUnifiedTitleAndToolBarOnMac(true);
 
+    table_->setObjectName(QStringLiteral("documentTable"));
     table_->setModel(model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -48,35 +68,38 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     table_->setShowGrid(false);
     table_->setAlternatingRowColors(true);
     table_->setWordWrap(false);
+    table_->setFrameShape(QFrame::NoFrame);
     table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
-    table_->horizontalHeader()->setHighlightSections(false);
-    table_->horizontalHeader()->setSectionResizeMode(DocumentTableModel::Stamp, QHeaderView::Fixed);
-    table_->horizontalHeader()->resizeSection(DocumentTableModel::Stamp, 28);
-    for (auto [column, width] : {std::pair{DocumentTableModel::Number, 120},
-                                 {DocumentTableModel::Title, 90},
-                                 {DocumentTableModel::Date, 100},
-                                 {DocumentTableModel::Due, 100},
-                                 {DocumentTableModel::Amount, 100},
-                                 {DocumentTableModel::Currency, 70}}) {
-        table_->horizontalHeader()->resizeSection(column, width);
+    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 10);
+    QHeaderView* header = table_->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(DocumentTableModel::Stamp, QHeaderView::Fixed);
+    header->resizeSection(DocumentTableModel::Stamp, 30);
+    for (auto [column, width] : {std::pair{DocumentTableModel::Number, 104},
+                                 {DocumentTableModel::Title, 60},
+                                 {DocumentTableModel::Date, 84},
+                                 {DocumentTableModel::Due, 84},
+                                 {DocumentTableModel::Amount, 88},
+                                 {DocumentTableModel::Currency, 62}}) {
+        header->resizeSection(column, width);
     }
-    table_->horizontalHeader()->setSectionResizeMode(DocumentTableModel::Client,
-                                                     QHeaderView::Stretch);
-    table_->setIconSize(QSize(16, 16));
+    header->setSectionResizeMode(DocumentTableModel::Client, QHeaderView::Stretch);
+    table_->setIconSize(QSize(18, 18));
 
+    search_->setObjectName(QStringLiteral("search"));
     search_->setPlaceholderText(tr("Search"));
     search_->setClearButtonEnabled(true);
-    search_->setMaximumWidth(260);
+    search_->setMaximumWidth(240);
     connect(search_, &QLineEdit::textChanged, this,
             [this](const QString& text) { session_.documents().setSearchText(text); });
 
     auto* splitter = new QSplitter(this);
+    splitter->setObjectName(QStringLiteral("mainSplitter"));
     splitter->addWidget(table_);
     splitter->addWidget(editor_);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
-    splitter->setSizes({760, 420});
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({680, 600});
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
     statusBar()->addPermanentWidget(summary_);
@@ -92,54 +115,29 @@ MainWindow::MainWindow(AppSession& session, QWidget* parent)
     connect(&list, &DocumentList::selectionChanged, this, [this] {
         syncSelectionFromList();
         editor_->showDocument(session_.documents().current());
+        updateWindowTitle();
+        updateActions();
     });
-    connect(&list, &DocumentList::documentsChanged, this, [this](const std::vector<Record*>& d) {
-        if (std::find(d.begin(), d.end(), session_.documents().current()) != d.end()) {
-            editor_->refresh();
-        }
+    connect(&list, &DocumentList::documentsChanged, this, [this] {
         updateStatistics();
+        updateWindowTitle();
+        updateActions();  // a converted quote is deleted as an invoice
     });
     connect(&session_, &AppSession::statisticsChanged, this, &MainWindow::updateSummary);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::syncSelectionToList);
     connect(&session_, &AppSession::contextChanged, this, &MainWindow::contextChanged);
+
+    DocumentLifecycle& lifecycle = operations_.lifecycle;
+    connect(&lifecycle, &DocumentLifecycle::documentCreated, editor_,
+            &DocumentEditor::showClientBlock);
+    connect(&lifecycle, &DocumentLifecycle::dispatchDateSet, editor_,
+            &DocumentEditor::focusDispatchNumber);
+    connect(&lifecycle, &DocumentLifecycle::filterChanged, this, &MainWindow::updateFilterButton);
     contextChanged();
 }
 
-void MainWindow::createActions()
-{
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    saveAction_ = file->addAction(QIcon::fromTheme(QStringLiteral("document-save")), tr("&Save"),
-                                  QKeySequence::Save, this, [this] { session_.saveAction(); });
-    file->addSeparator();
-    QAction* quit = file->addAction(QIcon::fromTheme(QStringLiteral("application-exit")),
-                                    tr("&Quit"), QKeySequence::Quit, this, [this] { close(); });
-    quit->setMenuRole(QAction::QuitRole);
-
-    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    undoAction_ = edit->addAction(QIcon::fromTheme(QStringLiteral("edit-undo")), tr("&Undo"),
-                                  QKeySequence::Undo, this, [this] { session_.undo(); });
-    redoAction_ = edit->addAction(QIcon::fromTheme(QStringLiteral("edit-redo")), tr("&Redo"),
-                                  QKeySequence::Redo, this, [this] { session_.redo(); });
-    edit->addSeparator();
-    edit->addAction(QIcon::fromTheme(QStringLiteral("edit-find")), tr("&Find…"), QKeySequence::Find,
-                    this, [this] {
-                        search_->setFocus(Qt::ShortcutFocusReason);
-                        search_->selectAll();
-                    });
-
-    QToolBar* bar = addToolBar(tr("Main"));
-    bar->setObjectName(QStringLiteral("mainToolBar"));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->addAction(saveAction_);
-    bar->addAction(undoAction_);
-    bar->addAction(redoAction_);
-    auto* spacer = new QWidget(bar);
-    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(spacer);
-    bar->addWidget(search_);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::contextChanged()
 {
@@ -151,6 +149,17 @@ void MainWindow::contextChanged()
     updateStatistics();
     updateSummary();
     updateActions();
+}
+
+void MainWindow::updateWindowTitle()
+{
+    // The document's title and number; without one the desktop shows the application's name.
+    const Record* d = session_.documents().current();
+    QString title;
+    if (d && !d->isDeleted()) {
+        title = QStringList{d->string("title"), d->string("number")}.join(u' ').trimmed();
+    }
+    setWindowTitle(title.isEmpty() ? QString() : title + QStringLiteral("[*]"));
 }
 
 void MainWindow::updateStatistics()
@@ -176,22 +185,6 @@ void MainWindow::updateSummary()
                                stringFromNumber(s.dueAmount)));
 }
 
-void MainWindow::updateActions()
-{
-    Context* context = session_.context();
-    const bool open = context != nullptr;
-    saveAction_->setEnabled(open);
-    undoAction_->setEnabled(open && context->undoManager().canUndo());
-    redoAction_->setEnabled(open && context->undoManager().canRedo());
-    undoAction_->setText(open && context->undoManager().canUndo()
-                             ? tr("&Undo %1").arg(context->undoManager().undoActionName())
-                             : tr("&Undo"));
-    redoAction_->setText(open && context->undoManager().canRedo()
-                             ? tr("&Redo %1").arg(context->undoManager().redoActionName())
-                             : tr("&Redo"));
-    setWindowModified(open && context->hasChanges());
-}
-
 void MainWindow::syncSelectionFromList()
 {
     if (syncing_) {
@@ -207,6 +200,9 @@ void MainWindow::syncSelectionFromList()
         }
     }
     table_->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!selection.isEmpty()) {
+        table_->scrollTo(selection.first().topLeft());
+    }
     syncing_ = false;
 }
 
@@ -233,10 +229,13 @@ void MainWindow::restoreLayout()
 {
     Settings& s = session_.settings();
     if (!restoreGeometry(s.value(kWindowGeometry).toByteArray())) {
-        resize(1180, 720);
+        resize(1280, 780);
     }
     restoreState(s.value(kWindowState).toByteArray());
     table_->horizontalHeader()->restoreState(s.value(kDocumentTableHeader).toByteArray());
+    if (auto* splitter = qobject_cast<QSplitter*>(centralWidget())) {
+        splitter->restoreState(s.value(kSplitterState).toByteArray());
+    }
 }
 
 void MainWindow::saveLayout()
@@ -245,6 +244,9 @@ void MainWindow::saveLayout()
     s.set(kWindowGeometry, saveGeometry());
     s.set(kWindowState, saveState());
     s.set(kDocumentTableHeader, table_->horizontalHeader()->saveState());
+    if (auto* splitter = qobject_cast<QSplitter*>(centralWidget())) {
+        s.set(kSplitterState, splitter->saveState());
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

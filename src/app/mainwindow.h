@@ -2,28 +2,38 @@
 
 #include <QMainWindow>
 #include <functional>
+#include <memory>
 
 class QAction;
-class QLineEdit;
-class QTableView;
+class QActionGroup;
 class QLabel;
+class QLineEdit;
+class QMenu;
+class QTableView;
 
 namespace tamo {
 
 class AppSession;
 class DocumentEditor;
 class DocumentTableModel;
+struct DocumentOperations;
 
-// The main window: the document list with its search field beside the editor of the current
-// document, and the menus and toolbar of the actions that exist so far.
+// The main window: the document list with its search field and filter beside the editor of the
+// current document, and the menus and toolbar that reach every action.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
+    MainWindow(AppSession& session, DocumentOperations& operations, QWidget* parent = nullptr);
+    // With operations of its own, for a window without notifications.
     explicit MainWindow(AppSession& session, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     DocumentEditor* editor() const { return editor_; }
     QTableView* documentTable() const { return table_; }
+    DocumentOperations& operations() const { return operations_; }
+    // The window's action with this object name ("deleteInvoice", "newInvoice", ...).
+    QAction* action(const QString& name) const;
     // Asked before the window closes; false keeps it open.
     void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
     void restoreLayout();
@@ -33,24 +43,40 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> own,
+               DocumentOperations* operations, QWidget* parent);
+
+    // Menus, toolbar and the actions behind them (mainactions.cpp).
     void createActions();
-    void contextChanged();
+    QMenu* createFilterMenu();
+    QAction* makeAction(QMenu* menu, const QString& text, const char* name, const char* icon,
+                        const QKeySequence& shortcut, std::function<void()> run);
     void updateActions();
+    void updateFilterButton();
+    void openReminderSheet();
+    void openSlipSheet();
+    void openNotificationSheet();
+
+    void contextChanged();
     void updateSummary();
+    void updateWindowTitle();
     // Runs the statistics pass over the listed documents.
     void updateStatistics();
     void syncSelectionFromList();
     void syncSelectionToList();
 
     AppSession& session_;
+    std::unique_ptr<DocumentOperations> ownOperations_;
+    DocumentOperations& operations_;
     DocumentTableModel* model_;
     QTableView* table_;
     QLineEdit* search_;
     DocumentEditor* editor_;
     QLabel* summary_;
-    QAction* saveAction_ = nullptr;
-    QAction* undoAction_ = nullptr;
-    QAction* redoAction_ = nullptr;
+    QAction* filter_ = nullptr;
+    QActionGroup* filterChoices_ = nullptr;
+    QList<QAction*> documentActions_;  // need a current document
+    QList<QAction*> storeActions_;     // need an open store
     std::function<bool()> closeGuard_;
     bool syncing_ = false;
 };

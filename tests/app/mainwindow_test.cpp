@@ -6,7 +6,7 @@
 #include <QTableView>
 
 #include "app/appdelegate.h"
-#include "app/documenteditor.h"
+#include "app/editor/documenteditor.h"
 #include "app/mainwindow.h"
 #include "cli/samplegenerator.h"
 #include "support/testsupport.h"
@@ -47,7 +47,8 @@ TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
     ASSERT_NE(current, nullptr);
     current->setValue("status", 0);
     window.editor()->refresh();
-    auto* title = window.editor()->findChildren<QLineEdit*>().at(1);
+    auto* title = window.editor()->findChild<QLineEdit*>(u"title"_qs);
+    ASSERT_NE(title, nullptr);
     ASSERT_FALSE(title->isReadOnly());
     title->setText(u"Final invoice"_qs);
     emit title->editingFinished();

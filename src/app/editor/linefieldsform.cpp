@@ -1,0 +1,135 @@
+#include "app/editor/linefieldsform.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "calc/numberformat.h"
+#include "settings/settings.h"
+
+namespace tamo {
+
+namespace {
+
+QLineEdit* lineEdit(QWidget* parent, const char* name, const QString& placeholder = {})
+{
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(QString::fromLatin1(name));
+    edit->setPlaceholderText(placeholder);
+    return edit;
+}
+
+// Marks a field whose text is no number, until it is read again.
+std::optional<double> readNumber(QLineEdit* edit)
+{
+    const std::optional<double> n = decimalNumberFromString(edit->text());
+    edit->setStyleSheet(n ? QString() : QStringLiteral("QLineEdit { border: 1px solid #c62828; }"));
+    if (!n) {
+        edit->setFocus(Qt::OtherFocusReason);
+        edit->selectAll();
+    }
+    return n;
+}
+
+}  // namespace
+
+LineFieldsForm::LineFieldsForm(QWidget* parent)
+    : QWidget(parent),
+      title_(lineEdit(this, "lineTitle", tr("Description"))),
+      subtitle_(lineEdit(this, "lineSubtitle", tr("Second line (optional)"))),
+      quantity_(lineEdit(this, "lineQuantity")),
+      unit_(lineEdit(this, "lineUnit", tr("e.g. h, pcs"))),
+      price_(lineEdit(this, "linePrice")),
+      sku_(lineEdit(this, "lineSku")),
+      note_(lineEdit(this, "lineNote"))
+{
+    quantity_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    price_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    quantity_->setMaximumWidth(90);
+    unit_->setMaximumWidth(110);
+
+    auto* amounts = new QHBoxLayout;
+    amounts->addWidget(quantity_);
+    amounts->addWidget(new QLabel(tr("Unit:"), this));
+    amounts->addWidget(unit_);
+    amounts->addStretch();
+
+    auto* taxes = new QHBoxLayout;
+    for (int i = 0; i < 3; ++i) {
+        taxes_[i] = new QCheckBox(this);
+        taxes_[i]->setObjectName(QStringLiteral("lineTax%1").arg(i + 1));
+        taxes->addWidget(taxes_[i]);
+    }
+    taxes->addStretch();
+
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("Title:"), title_);
+    form->addRow(tr("Subtitle:"), subtitle_);
+    form->addRow(tr("Quantity:"), amounts);
+    form->addRow(tr("Unit price:"), price_);
+    form->addRow(tr("Article no.:"), sku_);
+    form->addRow(tr("Note:"), note_);
+    form->addRow(tr("Taxes:"), taxes);
+
+    for (QLineEdit* e : {title_, subtitle_, quantity_, unit_, price_, sku_, note_}) {
+        connect(e, &QLineEdit::returnPressed, this, &LineFieldsForm::submitted);
+    }
+}
+
+void LineFieldsForm::showTaxes(const Settings& settings)
+{
+    const SettingKey* titles[] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
+    const SettingKey* rates[] = {&key::tax1Rate, &key::tax2Rate, &key::tax3Rate};
+    const SettingKey* enabled[] = {&key::tax1Enabled, &key::tax2Enabled, &key::tax3Enabled};
+    for (int i = 0; i < 3; ++i) {
+        const QString title = settings.string(*titles[i]);
+        taxes_[i]->setText(tr("%1 (%2 %)")
+                               .arg(title.isEmpty() ? tr("Tax %1").arg(i + 1) : title,
+                                    decimalStringFromNumber(settings.real(*rates[i]) * 100)));
+        taxes_[i]->setVisible(settings.boolean(*enabled[i]));
+    }
+}
+
+void LineFieldsForm::setFields(const LineFields& fields, bool keepTaxes)
+{
+    title_->setText(fields.title);
+    subtitle_->setText(fields.subtitle);
+    unit_->setText(fields.unit);
+    sku_->setText(fields.sku);
+    note_->setText(fields.note);
+    quantity_->setText(decimalStringFromNumber(fields.quantity));
+    price_->setText(stringFromNumber(fields.price));
+    for (QLineEdit* e : {quantity_, price_}) {
+        e->setStyleSheet({});
+    }
+    if (!keepTaxes) {
+        taxes_[0]->setChecked(fields.tax1);
+        taxes_[1]->setChecked(fields.tax2);
+        taxes_[2]->setChecked(fields.tax3);
+    }
+}
+
+std::optional<LineFields> LineFieldsForm::fields()
+{
+    const std::optional<double> quantity = readNumber(quantity_);
+    const std::optional<double> price = quantity ? readNumber(price_) : std::nullopt;
+    if (!quantity || !price) {
+        return std::nullopt;
+    }
+    return LineFields{title_->text(),
+                      subtitle_->text(),
+                      unit_->text(),
+                      sku_->text(),
+                      note_->text(),
+                      *price,
+                      *quantity,
+                      taxes_[0]->isChecked(),
+                      taxes_[1]->isChecked(),
+                      taxes_[2]->isChecked()};
+}
+
+}  // namespace tamo
