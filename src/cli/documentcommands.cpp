@@ -21,18 +21,14 @@ QString describe(const Record* d)
                             : QStringLiteral("%1 %2 (%3)").arg(kind, number, d->uniqueID());
 }
 
-// Makes the named document the current one, as a click in the list would.
+// The named document as the current one, after checking the command's words.
 std::expected<Record*, Failure> select(AppSession& session, const QStringList& args, int count,
                                        const QString& usage)
 {
     if (args.size() < count || args.value(0).startsWith(u'-')) {
         return std::unexpected(Failure{QStringLiteral("usage: tamo %1").arg(usage), kUsageError});
     }
-    auto document = findDocument(session, args[0]);
-    if (document) {
-        session.documents().setSelection({*document});
-    }
-    return document;
+    return selectDocument(session, args[0]);
 }
 
 std::optional<Failure> create(AppSession& session, const QStringList& args, QTextStream& out,

@@ -301,7 +301,7 @@ Sums insertLines(Context& context, Dice& dice, Record* document, int count, doub
         Record* line = context.insert("Item");
         setFromCatalog(line, entry);
         set(line, {{"unitCount", unitCount}, {"subAmount", sub}, {"amount", cents(sub + tax)}});
-        set(line, {{"tax1Percent", taxRate}, {"tax1Amount", tax}});
+        set(line, {{"tax1Percent", taxRate}, {"tax1Amount", tax}, {"tax1Title", u"VAT"_qs}});
         setAll(line, {"isTax2Compound", "isTax3Compound"}, false);
         setAll(line, {"tax2Percent", "tax3Percent", "tax2Amount", "tax3Amount"}, 0.0);
         // A second apart, so that lines sorted by creation stay in the order they were added.
