@@ -5,6 +5,7 @@
 #include <QSaveFile>
 
 #include "calc/totals.h"
+#include "documents/lineitems.h"
 #include "einvoice/ubldocument.h"
 
 namespace tamo {
@@ -62,7 +63,7 @@ QString EinvoiceActions::evoiceXMLString() const
     if (!invoice) {
         return {};
     }
-    return tamo::evoiceXMLString(*invoice, itemsInListOrder(*invoice, session_.settings()),
+    return tamo::evoiceXMLString(*invoice, LineItems(session_).sortedItems(*invoice),
                                  session_.settings(), session_.clock().now());
 }
 

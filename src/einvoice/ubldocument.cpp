@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "einvoice/decimal.h"
-#include "model/context.h"
+#include "model/record.h"
 #include "settings/settings.h"
 
 namespace tamo {
@@ -369,25 +369,6 @@ QString evoiceXMLString(const Record& invoice, const std::vector<Record*>& lines
     w.close();
     xml.writeEndDocument();
     return QString::fromUtf8(bytes);
-}
-
-std::vector<Record*> itemsInListOrder(const Record& invoice, const Settings& settings)
-{
-    std::vector<Record*> items = invoice.toMany("items");
-    switch (settings.integer(key::itemSortOrder)) {
-    case 1:
-        sortRecords(items, {{"misc5"}});
-        break;
-    case 2:
-        sortRecords(items, {{"title"}});
-        break;
-    case 3:
-        sortRecords(items, {{"amount"}});
-        break;
-    default:
-        break;
-    }
-    return items;
 }
 
 }  // namespace tamo

@@ -18,8 +18,4 @@ class Settings;
 QString evoiceXMLString(const Record& invoice, const std::vector<Record*>& lines,
                         const Settings& settings, const QDateTime& now);
 
-// The invoice's items in the order of its line list (the setting itemSortOrder: entry, title or
-// amount; otherwise as stored), so that e-invoice line numbers match the printed document.
-std::vector<Record*> itemsInListOrder(const Record& invoice, const Settings& settings);
-
 }  // namespace tamo

@@ -1,5 +1,6 @@
 #include <QFile>
 
+#include "documents/lineitems.h"
 #include "einvoice/decimal.h"
 #include "einvoice/ubldocument.h"
 #include "einvoicefixture.h"
@@ -129,7 +130,8 @@ TEST_P(GoldenTest, MatchesItsGoldenFileAndTheUblSchema)
         item(d, title, values);
     }
     totals.calculateInvoice(*d);
-    const QString xml = evoiceXMLString(*d, itemsInListOrder(*d, settings), settings, clock.now());
+    const QString xml =
+        evoiceXMLString(*d, LineItems(session).sortedItems(*d), settings, clock.now());
     QLocale::setDefault(locale);
 
     EXPECT_EQ(UblSchema::invoice().problems(xml), QStringList());
@@ -154,7 +156,7 @@ TEST_F(UblSchemaTest, RefusesAnInvoiceWhoseElementsAreOutOfOrder)
 {
     Record* d = invoice();
     item(d, u"Design", u"baseAmount=1 unitCount=1");
-    QString xml = evoiceXMLString(*d, itemsInListOrder(*d, settings), settings, clock.now());
+    QString xml = evoiceXMLString(*d, LineItems(session).sortedItems(*d), settings, clock.now());
     ASSERT_EQ(UblSchema::invoice().problems(xml), QStringList());
     xml.replace(u"<cbc:InvoiceTypeCode>380</cbc:InvoiceTypeCode>"_qs, QString());
     xml.replace(u"<cbc:BuyerReference>"_qs,
