@@ -178,6 +178,10 @@ const CommandEntry kCommands[] = {
     {u"filter", true, filterCommand},
     {u"add-item", true, addItemCommand},
     {u"set-client", true, setClientCommand},
+    {u"einvoice", true, einvoiceCommand},
+    {u"einvoice-check", true, einvoiceCheckCommand},
+    {u"einvoice-details", true, einvoiceDetailsCommand},
+    {u"einvoice-notice", false, einvoiceNoticeCommand},
 };
 
 }  // namespace
@@ -211,7 +215,9 @@ QString usage()
         "  filter TAG [--json]   (0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent)\n"
         "  add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT]\n"
         "           [--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]\n"
-        "  set-client N (--vcard FILE [--index I] | --remembered ID)   (I counts from 0)\n");
+        "  set-client N (--vcard FILE [--index I] | --remembered ID)   (I counts from 0)\n"
+        "  einvoice N FILE [--force]   (XRechnung XML of document N, after the readiness check)\n"
+        "  einvoice-check N | einvoice-details N [KEY=VALUE ...] | einvoice-notice\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)

@@ -59,6 +59,12 @@ std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const QStringList&,
 std::optional<Failure> recoverCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> openFileCommand(AppSession&, const QStringList&, QTextStream&);
 
+// The e-invoice (einvoicecommands.cpp).
+std::optional<Failure> einvoiceCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> einvoiceCheckCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> einvoiceDetailsCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> einvoiceNoticeCommand(AppSession&, const QStringList&, QTextStream&);
+
 // Lines and clients of a document (linecommands.cpp).
 std::optional<Failure> addItemCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> setClientCommand(AppSession&, const QStringList&, QTextStream&);

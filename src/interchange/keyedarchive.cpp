@@ -267,8 +267,13 @@ private:
         case PLIST_REAL:
         case PLIST_BOOLEAN:
         case PLIST_DATA:
-        case PLIST_DATE:
             return Plist(plist_copy(object));
+        case PLIST_DATE:
+            // A date beyond what libplist's reader can hold arrives with meaningless parts.
+            if (plist_t date = plistFromValue(*valueFromPlist(object))) {
+                return Plist(date);
+            }
+            return refuse(QStringLiteral("A date lies too far from today."));
         case PLIST_DICT:
             break;
         default:
@@ -427,12 +432,14 @@ private:
         if (!seconds || !seconds->isNumber()) {
             return refuse(QStringLiteral("A date holds no time."));
         }
-        const double t = seconds->toDouble();
-        if (!(t > -2147483648.0 && t < 2147483647.0)) {
+        // To the millisecond, as the store keeps dates; the same rounding on every reading keeps
+        // a date stable through any number of round trips.
+        const QDateTime date = dateFromAppleTime(seconds->toDouble());
+        plist_t node = date.isValid() ? plistFromValue(Value(date)) : nullptr;
+        if (!node) {
             return refuse(QStringLiteral("A date lies too far from today."));
         }
-        const double whole = std::floor(t);
-        return Plist(plist_new_date(int32_t(whole), int32_t(std::lround((t - whole) * 1e6))));
+        return Plist(node);
     }
 
     Result<Plist> decodeDecimal(plist_t object)

@@ -1,0 +1,72 @@
+#include <QFile>
+
+#include "cli/commands.h"
+#include "einvoicefixture.h"
+#include "support/commandrunner.h"
+#include "ublschema.h"
+
+using namespace tamo;
+using namespace tamo::test;
+
+namespace {
+
+class EinvoiceCommandsTest : public EinvoiceTest {
+protected:
+    // Runs `tamo --store` on this test's profile; the exit code and everything printed.
+    std::pair<int, QString> tamo(const QStringList& words)
+    {
+        QString out, err;
+        QTextStream o(&out), e(&err);
+        const int code =
+            runCommand(parseInvocation(
+                           QStringList{u"tamo"_qs, u"--store"_qs, dir.path(u"profile"_qs)} + words),
+                       o, e);
+        o.flush();
+        e.flush();
+        return {code, out + err};
+    }
+    QString status() { return queryText(dir.storePath(), u"SELECT status FROM Invoice"_qs); }
+};
+
+TEST_F(EinvoiceCommandsTest, ChecksWritesMarksAndThenRefusesTheSentInvoice)
+{
+    Record* d = invoice(u"due=2099-12-31T12:00:00Z");  // the commands run on today's clock
+    item(d, u"Design", u"baseAmount=100 unitCount=1");
+    settings.remove(key::prefsSupplierIBAN);
+    settings.set(key::markInvoiceAsSent, false);
+    ASSERT_TRUE(session.saveContext());
+    const QString n = u"RE-2026-017"_qs;
+
+    auto result = tamo({u"einvoice-check"_qs, n});
+    EXPECT_EQ(result.first, 1);
+    EXPECT_TRUE(result.second.startsWith(
+        u"not possible: step 5: the supplier setting prefsSupplierIBAN is empty\n"))
+        << result.second.toStdString();
+    const QString refused = dir.path(u"refused.xml"_qs), forced = dir.path(u"forced.xml"_qs);
+    EXPECT_EQ(tamo({u"einvoice"_qs, n, refused}).first, 1);
+    EXPECT_FALSE(QFile::exists(refused));
+    result = tamo({u"einvoice"_qs, n, forced, u"--force"_qs});
+    EXPECT_EQ(result.first, 0);
+    EXPECT_TRUE(result.second.startsWith(u"Skipped the e-invoice readiness check (--force)"));
+    EXPECT_TRUE(readFile(forced).contains(u"<cbc:ID></cbc:ID>"));  // the empty IBAN
+    EXPECT_EQ(status(), u"0");
+
+    tamo({u"settings"_qs, u"set"_qs, u"prefsSupplierIBAN"_qs, u"DE02120300000000202051"_qs});
+    tamo({u"settings"_qs, u"set"_qs, u"markInvoiceAsSent"_qs, u"true"_qs});
+    EXPECT_EQ(tamo({u"einvoice-check"_qs, n}), std::pair(0, u"possible\n"_qs));
+    EXPECT_EQ(tamo({u"einvoice-details"_qs, n, u"evoiceCty=Potsdam"_qs}).first, kUsageError);
+    result = tamo({u"einvoice-details"_qs, n, u"evoiceCity=Potsdam"_qs});
+    EXPECT_TRUE(result.second.contains(u"\nCity (evoiceCity): Potsdam\n"));
+
+    const QString written = dir.path(u"invoice.xml"_qs);
+    EXPECT_EQ(tamo({u"einvoice"_qs, n, written}).first, 0);
+    EXPECT_EQ(UblSchema::invoice().problems(readFile(written)), QStringList());
+    EXPECT_TRUE(readFile(written).contains(u"<cbc:CityName>Potsdam</cbc:CityName>"));
+    EXPECT_EQ(status(), u"1");
+    result = tamo({u"einvoice"_qs, n, dir.path(u"again.xml"_qs)});
+    EXPECT_EQ(result.first, 1);
+    EXPECT_TRUE(result.second.contains(u"already sent"));
+    EXPECT_EQ(tamo({u"einvoice-details"_qs, n, u"evoiceCity=Bonn"_qs}).first, 1);
+}
+
+}  // namespace
