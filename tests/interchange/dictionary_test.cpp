@@ -175,6 +175,16 @@ TEST_F(DictionaryTest, DictionariesThatDoNotFitAreRefusedBeforeAnythingIsInserte
     }
 }
 
+TEST_F(DictionaryTest, AFileFarLargerThanAnyBackupIsNotRead)
+{
+    const QString path = dir.path(u"huge.tamoinvoices"_qs);
+    ASSERT_TRUE(writeFileAtomically(path, QByteArray(4096, ' ')));
+    auto read = readWholeFile(path, 1024);
+    ASSERT_FALSE(read);
+    EXPECT_EQ(read.error().code, kFileTooLarge);
+    EXPECT_TRUE(read.error().message.contains(u"too large"));
+}
+
 TEST_F(DictionaryTest, RecordsNestedWithoutEndAreRefused)
 {
     // Line → template → line → template ... as a damaged or hostile file might hold.
