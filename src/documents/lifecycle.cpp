@@ -1,6 +1,5 @@
 #include "documents/lifecycle.h"
 
-
 #include "calc/numbering.h"
 #include "calc/totals.h"
 #include "documents/notificationscheduler.h"

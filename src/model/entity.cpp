@@ -220,9 +220,8 @@ EntityDescription scheduledNotification()
 }  // namespace
 
 Model::Model()
-    : entities_{invoice(),        item(),           address(),
-                design(),         recentItem(),     recentShipping(),
-                documentTemplate(), scheduledNotification()}
+    : entities_{invoice(),    item(),           address(),          design(),
+                recentItem(), recentShipping(), documentTemplate(), scheduledNotification()}
 {
 }
 

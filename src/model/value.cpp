@@ -1,7 +1,9 @@
 #include "model/value.h"
 
 #include <QTimeZone>
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tamo {
 
@@ -72,8 +74,13 @@ int Value::toInt() const
         return *i;
     }
     if (const auto* d = std::get_if<double>(&v_)) {
-        // Truncation toward zero, as a stored number read as an integer does.
-        return std::isfinite(*d) ? int(std::trunc(*d)) : 0;
+        // Truncation toward zero, as a stored number read as an integer does; what an integer
+        // cannot hold saturates instead of being undefined.
+        if (!std::isfinite(*d)) {
+            return 0;
+        }
+        return int(std::clamp(std::trunc(*d), double(std::numeric_limits<qint32>::min()),
+                              double(std::numeric_limits<qint32>::max())));
     }
     if (const auto* b = std::get_if<bool>(&v_)) {
         return *b ? 1 : 0;

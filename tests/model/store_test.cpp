@@ -70,6 +70,9 @@ TEST_F(StoreTest, NumbersAreStoredInTheAttributesType)
     EXPECT_EQ(r->value("amount").type(), AttributeType::Decimal);
     EXPECT_EQ(r->integer("status"), 2);
     EXPECT_EQ(r->value("isPaid"), Value(true));
+    r->setValue("status", 1e12);  // from a foreign file: saturates rather than wrapping
+    EXPECT_EQ(r->integer("status"), std::numeric_limits<qint32>::max());
+    EXPECT_EQ(Value(-1e300).toInt(), std::numeric_limits<qint32>::min());
 }
 
 TEST_F(StoreTest, NewRecordsGetDistinctUniqueIDs)
