@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "app/editor/documenteditor.h"
+#include "app/einvoicesheets.h"
 #include "app/filemenu.h"
 #include "app/mainwindow.h"
 
@@ -32,6 +33,11 @@ AppDelegate::AppDelegate(const Profile& profile)
     };
     hooks.openUrl = [](const QString& url) { return QDesktopServices::openUrl(QUrl(url)); };
     installDataMenu(*window_, interchange_);
+    installEinvoiceActions(*window_, session_);
+    // Once the event loop runs, so that the notice appears over the finished window.
+    hooks.showEinvoiceNotice = [this] {
+        QTimer::singleShot(0, window_.get(), [this] { showEinvoiceNotice(window_.get()); });
+    };
     window_->setCloseGuard([this] { return requestQuit(); });
     connect(&scheduler_, &NotificationScheduler::documentActivated, this,
             &AppDelegate::showNotifiedDocument);

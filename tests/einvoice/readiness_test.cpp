@@ -17,6 +17,11 @@ struct ReadinessCase {
     const char* key = "";
 };
 
+void PrintTo(const ReadinessCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
+
 class ReadinessTest : public EinvoiceTest, public ::testing::WithParamInterface<ReadinessCase> {};
 
 const ReadinessCase kReadinessCases[] = {

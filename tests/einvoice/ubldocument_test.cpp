@@ -110,6 +110,11 @@ const GoldenCase kCases[] = {
      true},
 };
 
+void PrintTo(const GoldenCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
+
 class GoldenTest : public EinvoiceTest, public ::testing::WithParamInterface<GoldenCase> {};
 
 TEST_P(GoldenTest, MatchesItsGoldenFileAndTheUblSchema)
