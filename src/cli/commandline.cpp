@@ -1,5 +1,6 @@
 #include "cli/commandline.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -259,8 +260,10 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     if (!inv.error.isEmpty()) {
         return report(inv.error, kUsageError);
     }
-    const QString name = inv.command.value(0);
-    const QStringList args = inv.command.mid(1);
+    // The desktop hands a file to open as the only argument: `tamo FILE` is `tamo open FILE`.
+    const bool file = inv.command.size() == 1 && QFileInfo(inv.command[0]).isFile();
+    const QString name = file ? u"open"_qs : inv.command.value(0);
+    const QStringList args = file ? inv.command : inv.command.mid(1);
     if (name == u"help") {
         out << usage();
         return 0;

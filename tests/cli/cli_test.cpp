@@ -98,3 +98,22 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsReportedNotReplaced)
 }
 
 }  // namespace
+
+namespace {
+
+// What the desktop does when a Tamo file is opened from the file manager.
+TEST(CommandLineOpenTest, AFileAsTheOnlyArgumentIsHandedToOpenAndImportsNothing)
+{
+    TempProfile dir;
+    const QString file = dir.path(u"Acme.invdump"_qs);
+    QFile f(file);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("not imported by a double click");
+    f.close();
+    const CommandOutcome run = runTamo(dir.path(u"store"_qs), {file});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_TRUE(run.err.contains(u"please use the 'File Menu' to open documents"));
+    EXPECT_EQ(runTamo(dir.path(u"store"_qs), {u"list"_qs}).out.count(u'\n'), 1);  // heading only
+}
+
+}  // namespace
