@@ -10,6 +10,7 @@
 #include "app/einvoicesheets.h"
 #include "app/filemenu.h"
 #include "app/mainwindow.h"
+#include "app/renderactions.h"
 
 namespace tamo {
 
@@ -33,6 +34,8 @@ AppDelegate::AppDelegate(const Profile& profile)
     };
     hooks.openUrl = [](const QString& url) { return QDesktopServices::openUrl(QUrl(url)); };
     installDataMenu(*window_, interchange_);
+    // Before the store opens: its set-up loads the shipped designs through these.
+    installRenderActions(*window_, session_);
     installEinvoiceActions(*window_, session_);
     // Once the event loop runs, so that the notice appears over the finished window.
     hooks.showEinvoiceNotice = [this] {

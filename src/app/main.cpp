@@ -1,10 +1,14 @@
 #include <QApplication>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QTextStream>
+#include <memory>
 
 #include "app/appdelegate.h"
 #include "app/mainwindow.h"
 #include "cli/commandline.h"
+#include "cli/commands.h"
+#include "pdf/pdfrenderer.h"
 #include "platform/profile.h"
 
 int main(int argc, char** argv)
@@ -16,7 +20,18 @@ int main(int argc, char** argv)
     const tamo::Invocation invocation = tamo::parseInvocation(arguments);
 
     if (!invocation.command.isEmpty() || !invocation.error.isEmpty()) {
-        QCoreApplication app(argc, argv);
+        // Printing pages takes the web engine, which needs a GUI application; off screen, as
+        // commands show no windows.
+        std::unique_ptr<QCoreApplication> application;
+        if (tamo::commandRendersPages(invocation.command.value(0))) {
+            if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+            }
+            tamo::prepareRendering();
+            application = std::make_unique<QGuiApplication>(argc, argv);
+        } else {
+            application = std::make_unique<QCoreApplication>(argc, argv);
+        }
         QCoreApplication::setApplicationName(QStringLiteral("Tamo"));
         QCoreApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
         QTextStream out(stdout);
@@ -24,6 +39,7 @@ int main(int argc, char** argv)
         return tamo::runCommand(invocation, out, err);
     }
 
+    tamo::prepareRendering();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tamo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tamo"));

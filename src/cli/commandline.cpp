@@ -12,6 +12,7 @@
 #include "cli/samplegenerator.h"
 #include "model/appsession.h"
 #include "model/transformers.h"
+#include "render/designlibrary.h"
 
 namespace tamo {
 
@@ -183,6 +184,10 @@ const CommandEntry kCommands[] = {
     {u"einvoice-check", true, einvoiceCheckCommand},
     {u"einvoice-details", true, einvoiceDetailsCommand},
     {u"einvoice-notice", false, einvoiceNoticeCommand},
+    {u"render", true, renderCommand},
+    {u"export-pdfs", true, exportPdfsCommand},
+    {u"designs", true, designsCommand},
+    {u"templates", true, templatesCommand},
 };
 
 }  // namespace
@@ -218,7 +223,12 @@ QString usage()
         "           [--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]\n"
         "  set-client N (--vcard FILE [--index I] | --remembered ID)   (I counts from 0)\n"
         "  einvoice N FILE [--force]   (XRechnung XML of document N, after the readiness check)\n"
-        "  einvoice-check N | einvoice-details N [KEY=VALUE ...] | einvoice-notice\n");
+        "  einvoice-check N | einvoice-details N [KEY=VALUE ...] | einvoice-notice\n"
+        "  render N (--html FILE|- | --pdf FILE) [--reminder|--slip] [--design INDEX|TITLE]\n"
+        "  export-pdfs DIR [--filter TAG]   (every listed document, FOLDER/NUMBER_N.pdf)\n"
+        "  designs list | add | import FILE | export INDEX FILE | default INDEX\n"
+        "          | select INDEX | delete INDEX\n"
+        "  templates list | create N [NOTES] | apply INDEX N | delete INDEX\n");
 }
 
 Invocation parseInvocation(const QStringList& arguments)
@@ -284,6 +294,9 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     SystemClock clock;
     ConsolePrompter prompter(err, inv.assumeYes);
     AppSession session(profile, settings, clock, prompter);
+    // The store set-up loads the shipped designs, as in the window.
+    DesignLibrary designs(session);
+    designs.installHooks();
     // Commands see the settings as the window does after its start-up steps.
     applyOneTimeUpdates(settings);
     if (command->needsStore) {

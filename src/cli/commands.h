@@ -69,6 +69,14 @@ std::optional<Failure> einvoiceNoticeCommand(AppSession&, const QStringList&, QT
 std::optional<Failure> addItemCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> setClientCommand(AppSession&, const QStringList&, QTextStream&);
 
+// Pages, PDF files and designs (rendercommands.cpp). The commands that print pages need the web
+// engine, so `main` runs them in a GUI application off screen.
+bool commandRendersPages(const QString& command);
+std::optional<Failure> renderCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> exportPdfsCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> designsCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> templatesCommand(AppSession&, const QStringList&, QTextStream&);
+
 // Documents: create, duplicate, convert, delete, status, dispatch, filters.
 std::optional<Failure> newInvoiceCommand(AppSession&, const QStringList&, QTextStream&);
 std::optional<Failure> newQuoteCommand(AppSession&, const QStringList&, QTextStream&);

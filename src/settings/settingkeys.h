@@ -57,6 +57,34 @@ struct SettingKey {
     X(tempSlipMisc, Text)                             \
     X(markInvoiceAsSent, Boolean)                     \
     X(selectedDesign, Integer)                        \
+    /* Labels and switches of the rendering */        \
+    X(locDate, Text)                                  \
+    X(locDue, Text)                                   \
+    X(locNumber, Text)                                \
+    X(locClientNumber, Text)                          \
+    X(locDispatched, Text)                            \
+    X(locSubtotal, Text)                              \
+    X(locTotal, Text)                                 \
+    X(locExpiration, Text)                            \
+    X(locQuoteNumber, Text)                           \
+    X(locOverdue, Text)                               \
+    X(locInvoiceNumber, Text)                         \
+    X(locTaxes, Text)                                 \
+    X(locNo, Text)                                    \
+    X(locUnit, Text)                                  \
+    X(locUnitPrice, Text)                             \
+    X(locNet, Text)                                   \
+    X(locSKUNumber, Text)                             \
+    X(locDescription, Text)                           \
+    X(locQuantity, Text)                              \
+    X(tempUseSKU, Boolean)                            \
+    X(isMainPreviewAction, Boolean)                   \
+    /* What a new template takes over */              \
+    X(templateIncludeClient, Boolean)                 \
+    X(templateIncludeTitle, Boolean)                  \
+    X(templateIncludeItems, Boolean)                  \
+    X(templateIncludeShipping, Boolean)               \
+    X(templateIncludeDiscount, Boolean)               \
     /* Taxes and totals */                            \
     X(tax1Rate, Real)                                 \
     X(tax2Rate, Real)                                 \

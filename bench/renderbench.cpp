@@ -1,0 +1,200 @@
+// Measures the rendering: the HTML of a 100-line document, its PDF through a warm renderer, an
+// edit until the refreshed preview is loaded as the preview pane loads it, and the command line
+// against wkhtmltopdf (Debian's package) on the same HTML: one cold `tamo render --pdf` against
+// one wkhtmltopdf run, and `tamo export-pdfs` of 100 documents against 100 wkhtmltopdf runs.
+//
+//   tamo-bench-render [--runs N] [--tamo PATH] [--wkhtmltopdf PATH]
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPdfDocument>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include "benchsupport.h"
+#include "calc/totals.h"
+#include "interchange/plistfile.h"
+#include "pdf/livepreview.h"
+#include "pdf/pdfoutput.h"
+#include "platform/scriptedprompter.h"
+#include "render/designlibrary.h"
+#include "render/pagelayout.h"
+#include "render/sampledocument.h"
+
+using namespace tamo;
+using namespace tamo::bench;
+
+namespace {
+
+QTextStream out(stdout);
+
+// A profile in `folder` with the shipped designs, English labels and one document.
+struct Bench {
+    explicit Bench(const QString& folder, int lines = 100)
+        : profile(Profile::inDirectory(folder)), settings(profile.settingsFile)
+    {
+        designs.installHooks();
+        context = session.managedObjectContext();
+        applySampleSettings(settings);
+        settings.set(key::tempPaperSize, 2);
+        document = insertSampleDocument(*context, clock.now(), lines);
+        session.saveContext();
+        session.documents().setSelection({document});
+    }
+    Profile profile;
+    Settings settings;
+    FixedClock clock{QDateTime(QDate(2026, 3, 5), QTime(9, 0), Qt::UTC)};
+    ScriptedPrompter prompter;
+    AppSession session{profile, settings, clock, prompter};
+    DesignLibrary designs{session};
+    Context* context = nullptr;
+    Record* document = nullptr;
+};
+
+// Wall-clock milliseconds of one run of a program; -1 when it fails.
+double runMs(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QElapsedTimer timer;
+    timer.start();
+    process.start(program, arguments);
+    if (!process.waitForFinished(600000) || process.exitCode() != 0) {
+        out << "  " << program << " failed: " << process.readAllStandardOutput() << '\n';
+        return -1;
+    }
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    prepareRendering();
+    QGuiApplication app(argc, argv);
+    const QStringList args = app.arguments();
+    const int runs = optionValue(args, u"--runs"_qs, u"15"_qs).toInt();
+    const QString tamo =
+        optionValue(args, u"--tamo"_qs, QCoreApplication::applicationDirPath() + u"/tamo"_qs);
+    const QString wkhtmltopdf =
+        optionValue(args, u"--wkhtmltopdf"_qs, QStandardPaths::findExecutable(u"wkhtmltopdf"_qs));
+    QTemporaryDir temporary;
+    Bench b(temporary.filePath(u"profile"_qs));
+    InvoiceHtml html(b.session, b.designs);
+
+    const double page = medianMs(runs, [&] { html.invoiceHTMLString(); });
+    const QString source = html.invoiceHTMLString();
+    out << QStringLiteral("HTML of a 100-line document: %1 ms (%2 KiB)\n")
+               .arg(page, 0, 'f', 2)
+               .arg(source.toUtf8().size() / 1024);
+
+    PdfRenderer renderer(b.session.applicationDataDirectory());
+    const QPageLayout layout = pageLayoutFromSettings(b.settings);
+    const QByteArray first = renderer.renderAndWait(source, layout).value_or(QByteArray());
+    const double pdf = medianMs(runs, [&] { renderer.renderAndWait(source, layout); });
+    out << QStringLiteral("PDF of it, warm renderer: %1 ms (%2 pages)\n")
+               .arg(pdf, 0, 'f', 1)
+               .arg(pdfPageCount(first));
+
+    // An edit of a line in a 6-line document until the preview file is loaded into Qt PDF with
+    // its first page drawn, as the preview pane does.
+    Record* shortDocument = insertSampleDocument(*b.context, b.clock.now(), 6);
+    b.session.saveContext();
+    b.session.documents().setSelection({shortDocument});
+    PdfOutput output(b.session, html, renderer);
+    LivePreview live(b.session, b.designs, output);
+    QPdfDocument shown;
+    Record* line = shortDocument->toMany("items").front();
+    Totals totals(b.session);
+    const double edit = medianMs(runs, [&] {
+        bool done = false;
+        const auto connection =
+            QObject::connect(&live, &LivePreview::updated, [&](const QString& path) {
+                shown.load(path);
+                shown.render(0, QSize(600, 850));
+                done = true;
+            });
+        {
+            UndoGroup group(*b.context, u"Edit"_qs);
+            line->setValue("unitCount", line->decimal("unitCount") + 1);
+            totals.calculateInvoice(*shortDocument);
+        }
+        b.session.saveContext();
+        while (!done) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QObject::disconnect(connection);
+    });
+    out << QStringLiteral("edit to refreshed preview: %1 ms median (target: at most 150)\n")
+               .arg(edit, 0, 'f', 1);
+
+    if (wkhtmltopdf.isEmpty() || !QFile::exists(tamo)) {
+        out << "wkhtmltopdf or tamo not found; the command-line comparison is skipped\n";
+        return 0;
+    }
+    const auto convert = [&](const QString& from, const QString& to) {
+        return runMs(wkhtmltopdf,
+                     {u"-q"_qs, u"--enable-local-file-access"_qs, u"-s"_qs, u"A4"_qs, from, to});
+    };
+    // The same HTML for both: the page as tamo renders it.
+    const QString htmlFile = temporary.filePath(u"page.html"_qs);
+    writeFileAtomically(htmlFile, source.toUtf8());
+    const QString store = temporary.filePath(u"profile"_qs);
+    const QString number = b.document->string("number");
+    b.session.documents().setSelection({b.document});
+    const int coldRuns = std::max(3, runs / 3);
+    const double cold = medianMs(coldRuns, [&] {
+        runMs(tamo, {u"--store"_qs, store, u"render"_qs, number, u"--pdf"_qs,
+                     temporary.filePath(u"tamo.pdf"_qs)});
+    });
+    const double wk =
+        medianMs(coldRuns, [&] { convert(htmlFile, temporary.filePath(u"wk.pdf"_qs)); });
+    out << QStringLiteral(
+               "cold render --pdf: tamo %1 ms, wkhtmltopdf %2 ms (ratio %3, target "
+               "at most 1)\n")
+               .arg(cold, 0, 'f', 0)
+               .arg(wk, 0, 'f', 0)
+               .arg(cold / wk, 0, 'f', 2);
+
+    // 100 documents of 6 lines: one export-pdfs against 100 wkhtmltopdf runs on their pages.
+    const QString batch = temporary.filePath(u"batch"_qs);
+    {
+        Bench many(batch, 6);
+        many.document->setValue("number", u"RE-100"_qs);
+        for (int i = 1; i < 100; ++i) {
+            Record* d = insertSampleDocument(*many.context, many.clock.now(), 6);
+            d->setValue("number", QStringLiteral("RE-%1").arg(i));
+        }
+        many.session.saveContext();
+        InvoiceHtml pages(many.session, many.designs);
+        const QString folder = temporary.filePath(u"wk"_qs);
+        QDir().mkpath(folder);
+        int n = 0;
+        for (const Record* d : many.context->fetch("Invoice")) {
+            writeFileAtomically(QStringLiteral("%1/%2.html").arg(folder).arg(++n),
+                                pages.invoiceHTMLStringFromInvoice(*d).toUtf8());
+        }
+    }
+    const double exported =
+        runMs(tamo, {u"--store"_qs, batch, u"export-pdfs"_qs, temporary.filePath(u"pdfs"_qs)});
+    QElapsedTimer hundred;
+    hundred.start();
+    for (int i = 1; i <= 100; ++i) {
+        convert(temporary.filePath(QStringLiteral("wk/%1.html").arg(i)),
+                temporary.filePath(QStringLiteral("wk/%1.pdf").arg(i)));
+    }
+    const double wk100 = double(hundred.nsecsElapsed()) / 1e6;
+    out << QStringLiteral(
+               "export-pdfs of 100 documents: tamo %1 ms, 100 wkhtmltopdf runs %2 ms "
+               "(%3 times faster, target at least 5)\n")
+               .arg(exported, 0, 'f', 0)
+               .arg(wk100, 0, 'f', 0)
+               .arg(wk100 / exported, 0, 'f', 1);
+    return 0;
+}

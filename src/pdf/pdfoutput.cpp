@@ -1,0 +1,151 @@
+#include "pdf/pdfoutput.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QRegularExpression>
+
+#include "interchange/plistfile.h"
+#include "model/appsession.h"
+#include "render/designlibrary.h"
+#include "render/pagelayout.h"
+
+Q_DECLARE_LOGGING_CATEGORY(lcPdf)
+
+namespace tamo {
+
+PdfOutput::PdfOutput(AppSession& session, InvoiceHtml& html, PdfRenderer& renderer, QObject* parent)
+    : QObject(parent), session_(session), html_(html), renderer_(renderer)
+{
+}
+
+QString PdfOutput::previewPath() const
+{
+    return QDir(session_.applicationDataDirectory()).filePath(QStringLiteral("Invoice.pdf"));
+}
+
+QString PdfOutput::attachmentPath() const
+{
+    return QDir(session_.applicationDataDirectory()).filePath(QStringLiteral("PDFInvoice.pdf"));
+}
+
+void PdfOutput::generatePreview()
+{
+    generate(RenderMode::Document, {}, Target::Preview);
+}
+
+void PdfOutput::generateReminder(const SheetTexts& texts)
+{
+    generate(RenderMode::Reminder, texts, Target::Preview);
+}
+
+void PdfOutput::generateSlip(const SheetTexts& texts)
+{
+    generate(RenderMode::Slip, texts, Target::Preview);
+}
+
+void PdfOutput::selectDesign(int index)
+{
+    html_.designs().selectDesign(index);
+    generate(html_.mode(), html_.sheetTexts(), Target::TemplatePreview);
+}
+
+void PdfOutput::setBusy(bool busy)
+{
+    if (busy != busy_) {
+        busy_ = busy;
+        emit busyChanged(busy);
+    }
+}
+
+void PdfOutput::generate(RenderMode mode, const SheetTexts& texts, Target target)
+{
+    html_.setMode(mode, texts);
+    session_.settings().set(key::isMainPreviewAction, true);
+    setBusy(true);
+    // A newer request makes the one still printing pointless.
+    renderer_.cancelAll();
+    renderer_.render(html_.invoiceHTMLString(), pageLayoutFromSettings(session_.settings()),
+                     [this, target](const Result<QByteArray>& pdf) { createPDF(pdf, target); });
+}
+
+void PdfOutput::createPDF(const Result<QByteArray>& pdf, Target target)
+{
+    setBusy(false);
+    Result<void> written =
+        pdf ? writeFileAtomically(previewPath(), *pdf) : Result<void>(std::unexpected(pdf.error()));
+    if (!written) {
+        const QString what = target == Target::Preview
+                                 ? tr("Something went really wrong while creating the preview.")
+                                 : tr("Something went really wrong while creating the design "
+                                      "preview.");
+        session_.prompter().ask(
+            {tr("Ooops!"), what + u"\n\n"_qs + written.error().text(), {tr("OK")}});
+        return;
+    }
+    if (target == Target::Preview) {
+        emit previewReady(previewPath());
+    } else {
+        emit templatePreviewReady(previewPath());
+    }
+}
+
+Result<void> PdfOutput::writePdf(const Record& document, const QString& path)
+{
+    auto pdf = renderer_.renderAndWait(html_.invoiceHTMLStringFromInvoice(document),
+                                       pageLayoutFromSettings(session_.settings()));
+    if (!pdf) {
+        return std::unexpected(pdf.error());
+    }
+    return writeFileAtomically(path, *pdf);
+}
+
+void PdfExportQueue::add(ExporterItem item)
+{
+    const int index = int(items_.size());
+    items_.push_back(std::move(item));
+    renderer_.render(
+        items_.back().source, items_.back().layout, [this, index](const Result<QByteArray>& pdf) {
+            ExporterItem& done = items_[size_t(index)];
+            qCDebug(lcPdf).noquote() << "self.destinationURL.path:" << done.destinationURL;
+            Result<void> written = pdf ? writeFileAtomically(done.destinationURL, *pdf)
+                                       : Result<void>(std::unexpected(pdf.error()));
+            done.completed = written.has_value();
+            if (!written) {
+                done.error = written.error();
+            }
+            ++finished_;
+            emit itemFinished(index);
+            if (isFinished()) {
+                emit finished();
+            }
+        });
+}
+
+void PdfExportQueue::waitForFinished()
+{
+    if (isFinished()) {
+        return;
+    }
+    QEventLoop loop;
+    connect(this, &PdfExportQueue::finished, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QString batchExportPath(const QString& folder, const Record& document, long number)
+{
+    QString name = document.string("number");
+    if (name.isEmpty()) {
+        name = document.string("title");
+    }
+    // A number such as "2026/17" must not reach into another folder.
+    static const QRegularExpression unsafe(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]"));
+    name.replace(unsafe, QStringLiteral("-"));
+    if (name.isEmpty() || name.startsWith(u'.')) {
+        name.prepend(QStringLiteral("Document"));
+    }
+    return QStringLiteral("%1/%2_%3.pdf").arg(folder, name).arg(number);
+}
+
+}  // namespace tamo

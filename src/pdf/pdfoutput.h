@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QObject>
+#include <vector>
+
+#include "pdf/pdfrenderer.h"
+#include "render/invoicehtml.h"
+
+namespace tamo {
+
+class AppSession;
+
+// The PDF operations of the application controller: the main preview in its three modes, the
+// design chooser's preview, and one document to a file. Each continues when its page has loaded
+// and been printed, never after a fixed wait. A failure shows "Ooops!" and leaves the previous
+// preview as it was.
+class PdfOutput : public QObject {
+    Q_OBJECT
+
+public:
+    PdfOutput(AppSession& session, InvoiceHtml& html, PdfRenderer& renderer,
+              QObject* parent = nullptr);
+
+    // "Invoice.pdf" and "PDFInvoice.pdf" in the application data folder.
+    QString previewPath() const;
+    QString attachmentPath() const;
+
+    void generatePreview();
+    void generateReminder(const SheetTexts& texts);
+    void generateSlip(const SheetTexts& texts);
+    // The design chooser: stores the choice and renders the current document with it.
+    void selectDesign(int index);
+    bool isBusy() const { return busy_; }
+
+    // Writes `document` (as a document, reminder or slip) to `path`, waiting for it; for the
+    // command line and other callers without a window.
+    Result<void> writePdf(const Record& document, const QString& path);
+
+signals:
+    void busyChanged(bool busy);
+    // The preview file was written and can be shown.
+    void previewReady(const QString& path);
+    // The design chooser's preview is ready; its OK button may be enabled.
+    void templatePreviewReady(const QString& path);
+
+private:
+    enum class Target { Preview, TemplatePreview };
+    void generate(RenderMode mode, const SheetTexts& texts, Target target);
+    // Writes the printed page into the preview file and shows it, or reports the failure.
+    void createPDF(const Result<QByteArray>& pdf, Target target);
+    void setBusy(bool busy);
+
+    AppSession& session_;
+    InvoiceHtml& html_;
+    PdfRenderer& renderer_;
+    bool busy_ = false;
+};
+
+// One document to be written to a file through a shared renderer: `source` is its page,
+// `destinationURL` the file, `layout` its paper. `completed` is set once the file is written;
+// `error` says why not.
+struct ExporterItem {
+    QString source;
+    QString destinationURL;
+    QPageLayout layout;
+    bool completed = false;
+    std::optional<Error> error{};
+};
+
+// A queue of exporter items that reuses one renderer and prints each page once it has loaded.
+class PdfExportQueue : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PdfExportQueue(PdfRenderer& renderer, QObject* parent = nullptr)
+        : QObject(parent), renderer_(renderer)
+    {
+    }
+
+    // Adds an item; it starts when the ones before it are done.
+    void add(ExporterItem item);
+    const std::vector<ExporterItem>& items() const { return items_; }
+    bool isFinished() const { return finished_ == items_.size(); }
+    // Runs the queue to its end.
+    void waitForFinished();
+
+signals:
+    void itemFinished(int index);
+    void finished();
+
+private:
+    PdfRenderer& renderer_;
+    std::vector<ExporterItem> items_;
+    size_t finished_ = 0;
+};
+
+// The file name of one document in a batch export: "FOLDER/NAME_N.pdf".
+QString batchExportPath(const QString& folder, const Record& document, long number);
+
+}  // namespace tamo

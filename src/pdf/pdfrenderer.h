@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QPageLayout>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include "platform/error.h"
+
+class QWebEnginePage;
+class QWebEngineProfile;
+
+namespace tamo {
+
+inline constexpr auto kRenderDomain = "Tamo.render";
+
+enum RenderError {
+    kPageNotLoaded = 1,
+    kPrintFailed,
+    kRunawayPages,
+    kRunawayTime,
+    kRendererStopped,
+    kPdfNotWritten,
+};
+
+// Call before the application object exists: the web engine shares the graphics contexts, and
+// the page may not open network connections of its own (WebRTC).
+void prepareRendering();
+
+// Turns HTML pages into PDF through one off-screen web page that is reused for every job; jobs
+// run one after the other, each printed only once its page has finished loading.
+//
+// The page is closed to the outside: scripts may run, but no request leaves for the network and
+// no file outside `localFolder` is read (the logo lives there). A design whose layout runs away
+// (some flex layouts make the engine print tens of thousands of blank pages) is stopped by the
+// limits and reported as an error; nothing is written then.
+class PdfRenderer : public QObject {
+    Q_OBJECT
+
+public:
+    struct Limits {
+        int maxPages = 1000;
+        int maxMilliseconds = 30000;  // loading and printing one page
+    };
+    using Done = std::function<void(const Result<QByteArray>& pdf)>;
+
+    explicit PdfRenderer(const QString& localFolder, QObject* parent = nullptr);
+    ~PdfRenderer() override;
+
+    void setLimits(Limits limits) { limits_ = limits; }
+    Limits limits() const { return limits_; }
+
+    // Queues a page; `done` runs on this thread with the PDF or the reason there is none.
+    void render(const QString& html, const QPageLayout& layout, Done done);
+    // Drops the waiting jobs and stops the one running; their callbacks are not called.
+    void cancelAll();
+    bool isBusy() const { return running_ != nullptr; }
+
+    // Renders one page and waits for it (the command line has no other work meanwhile).
+    Result<QByteArray> renderAndWait(const QString& html, const QPageLayout& layout);
+
+private:
+    struct Job {
+        QString html;
+        QPageLayout layout;
+        Done done;
+    };
+    void startNext();
+    void loaded(bool ok);
+    void printed(const QByteArray& pdf);
+    void finish(const Result<QByteArray>& result);
+    void timedOut();
+    void resetPage();
+
+    QString localFolder_;
+    Limits limits_;
+    std::unique_ptr<QWebEngineProfile> profile_;
+    std::unique_ptr<QObject> interceptor_;
+    std::unique_ptr<QWebEnginePage> page_;
+    std::deque<Job> queue_;
+    std::unique_ptr<Job> running_;
+    QString spillFile_;  // pages too large to hand over in memory go through this file
+    QTimer watchdog_;
+    quint64 generation_ = 0;  // tells a stopped job's late callbacks from the current one's
+};
+
+// The number of pages of a PDF the web engine wrote (the count of its page tree); 0 when the
+// bytes hold none.
+int pdfPageCount(const QByteArray& pdf);
+
+}  // namespace tamo
