@@ -241,12 +241,18 @@ void MainWindow::updateActions()
 void MainWindow::openReminderSheet()
 {
     VariantTextsSheet sheet(tr("Reminder"), operations_.lifecycle.reminderSheetTexts(), this);
+    if (extendVariantSheet_) {
+        extendVariantSheet_(sheet, false);
+    }
     sheet.exec();
 }
 
 void MainWindow::openSlipSheet()
 {
     VariantTextsSheet sheet(tr("Delivery Slip"), operations_.lifecycle.slipSheetTexts(), this);
+    if (extendVariantSheet_) {
+        extendVariantSheet_(sheet, true);
+    }
     sheet.exec();
 }
 

@@ -17,6 +17,7 @@ class AppSession;
 class DocumentEditor;
 class DocumentTableModel;
 struct DocumentOperations;
+class VariantTextsSheet;
 
 // The main window: the document list with its search field and filter beside the editor of the
 // current document, and the menus and toolbar that reach every action.
@@ -36,6 +37,12 @@ public:
     QAction* action(const QString& name) const;
     // Asked before the window closes; false keeps it open.
     void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
+    // Lets the rendering add its button to the reminder and delivery-slip sheets.
+    using VariantSheetExtension = std::function<void(VariantTextsSheet& sheet, bool slip)>;
+    void setVariantSheetExtension(VariantSheetExtension extension)
+    {
+        extendVariantSheet_ = std::move(extension);
+    }
     void restoreLayout();
     void saveLayout();
 
@@ -78,6 +85,7 @@ private:
     QList<QAction*> documentActions_;  // need a current document
     QList<QAction*> storeActions_;     // need an open store
     std::function<bool()> closeGuard_;
+    VariantSheetExtension extendVariantSheet_;
     bool syncing_ = false;
 };
 

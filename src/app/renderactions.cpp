@@ -1,14 +1,17 @@
 #include "app/renderactions.h"
 
 #include <QAction>
+#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 
 #include "app/designchooser.h"
 #include "app/designpreferences.h"
 #include "app/mainwindow.h"
 #include "app/previewpane.h"
+#include "app/sheets.h"
 #include "app/templatepopover.h"
 
 namespace tamo {
@@ -37,6 +40,21 @@ RenderWindowActions::RenderWindowActions(MainWindow& window, AppSession& session
     // A hidden preview is not kept up to date; showing it again brings it up to date.
     connect(dock_, &QDockWidget::visibilityChanged, &live_, &LivePreview::setEnabled);
     addActions();
+    // The sheets' button renders with the texts as edited there.
+    window.setVariantSheetExtension([this](VariantTextsSheet& sheet, bool slip) {
+        auto* buttons = sheet.findChild<QDialogButtonBox*>();
+        if (!buttons) {
+            return;
+        }
+        QPushButton* show = buttons->addButton(
+            slip ? tr("Show Delivery Slip") : tr("Show Reminder"), QDialogButtonBox::AcceptRole);
+        show->setObjectName(QStringLiteral("renderVariant"));
+        show->setDefault(true);
+        connect(show, &QPushButton::clicked, this, [this, &sheet, slip] {
+            slip ? generateSlip(sheet.texts()) : generateReminder(sheet.texts());
+            sheet.accept();
+        });
+    });
 }
 
 RenderWindowActions::~RenderWindowActions() = default;

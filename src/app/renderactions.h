@@ -36,7 +36,7 @@ public:
     PreviewPane* previewPane() const { return pane_; }
 
     void generatePreview();
-    // The render buttons of the reminder and delivery-slip sheets call these with their texts.
+    // The buttons of the reminder and delivery-slip sheets call these with their texts.
     void generateReminder(const SheetTexts& texts);
     void generateSlip(const SheetTexts& texts);
     void showTemplateSheet();

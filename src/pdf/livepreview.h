@@ -12,8 +12,8 @@ class DesignLibrary;
 
 // Keeps the preview of the current document up to date: a change of the document, its lines,
 // the selection or the design asks for a new preview, and changes that come close together are
-// rendered once. A request while a page is printing stops that page (it is already out of
-// date), so the preview shows the last state as soon as it can.
+// rendered once. The result of a page printing when a newer request comes is dropped, so the
+// preview shows the last state as soon as it can.
 class LivePreview : public QObject {
     Q_OBJECT
 

@@ -15,6 +15,11 @@ Q_DECLARE_LOGGING_CATEGORY(lcPdf)
 
 namespace tamo {
 
+namespace {
+// Longer than a page of ordinary length takes to print here.
+constexpr qint64 kLongPrint = 2000;
+}  // namespace
+
 PdfOutput::PdfOutput(AppSession& session, InvoiceHtml& html, PdfRenderer& renderer, QObject* parent)
     : QObject(parent), session_(session), html_(html), renderer_(renderer)
 {
@@ -64,14 +69,24 @@ void PdfOutput::generate(RenderMode mode, const SheetTexts& texts, Target target
     html_.setMode(mode, texts);
     session_.settings().set(key::isMainPreviewAction, true);
     setBusy(true);
-    // A newer request makes the one still printing pointless.
-    renderer_.cancelAll();
+    // Requests still waiting are out of date now; the page printing finishes, and its result is
+    // dropped (stopping it would cost a new engine process, more than most pages take).
+    renderer_.cancelWaiting();
+    if (renderer_.busyMilliseconds() > kLongPrint) {
+        renderer_.cancelAll();  // probably a layout running away: no need to wait for its end
+    }
+    const quint64 request = ++request_;
     renderer_.render(html_.invoiceHTMLString(), pageLayoutFromSettings(session_.settings()),
-                     [this, target](const Result<QByteArray>& pdf) { createPDF(pdf, target); });
+                     [this, target, request](const Result<QByteArray>& pdf) {
+                         createPDF(pdf, target, request);
+                     });
 }
 
-void PdfOutput::createPDF(const Result<QByteArray>& pdf, Target target)
+void PdfOutput::createPDF(const Result<QByteArray>& pdf, Target target, quint64 request)
 {
+    if (request != request_) {
+        return;
+    }
     setBusy(false);
     Result<void> written =
         pdf ? writeFileAtomically(previewPath(), *pdf) : Result<void>(std::unexpected(pdf.error()));

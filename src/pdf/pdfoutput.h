@@ -48,13 +48,14 @@ private:
     enum class Target { Preview, TemplatePreview };
     void generate(RenderMode mode, const SheetTexts& texts, Target target);
     // Writes the printed page into the preview file and shows it, or reports the failure.
-    void createPDF(const Result<QByteArray>& pdf, Target target);
+    void createPDF(const Result<QByteArray>& pdf, Target target, quint64 request);
     void setBusy(bool busy);
 
     AppSession& session_;
     InvoiceHtml& html_;
     PdfRenderer& renderer_;
     bool busy_ = false;
+    quint64 request_ = 0;  // the newest request; older results are out of date when they come
 };
 
 // One document to be written to a file through a shared renderer: `source` is its page,

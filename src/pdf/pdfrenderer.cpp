@@ -135,6 +135,16 @@ void PdfRenderer::resetPage()
     });
 }
 
+void PdfRenderer::dropEngine()
+{
+    // The engine cannot be told to stop printing. Pages of one profile share a renderer
+    // process, which would finish the stopped work before the next page; a new profile gets a
+    // process of its own, and the old one ends with its last page.
+    page_.reset();
+    profile_.reset();
+    interceptor_.reset();
+}
+
 void PdfRenderer::render(const QString& html, const QPageLayout& layout, Done done)
 {
     queue_.push_back({html, layout, std::move(done)});
@@ -150,8 +160,7 @@ void PdfRenderer::cancelAll()
         running_.reset();
         watchdog_.stop();
         ++generation_;
-        // The engine cannot be told to stop printing; dropping the page ends the work.
-        page_.reset();
+        dropEngine();
     }
 }
 
@@ -167,6 +176,7 @@ void PdfRenderer::startNext()
         resetPage();
     }
     watchdog_.start(limits_.maxMilliseconds);
+    started_.start();
     const QUrl base = QUrl::fromLocalFile(QDir(localFolder_).absolutePath() + u'/');
     const QByteArray utf8 = running_->html.toUtf8();
     if (utf8.size() <= kMaxInlinePage) {
@@ -234,7 +244,7 @@ void PdfRenderer::timedOut()
                          "design's layout may be running away; check its style sheet.")
                           .arg(limits_.maxMilliseconds / 1000.0)));
     ++generation_;
-    page_.reset();
+    dropEngine();
     finish(failure);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPageLayout>
 #include <QTimer>
@@ -55,9 +56,14 @@ public:
 
     // Queues a page; `done` runs on this thread with the PDF or the reason there is none.
     void render(const QString& html, const QPageLayout& layout, Done done);
-    // Drops the waiting jobs and stops the one running; their callbacks are not called.
+    // Drops the waiting jobs; their callbacks are not called. The running one goes on.
+    void cancelWaiting() { queue_.clear(); }
+    // Drops the waiting jobs and stops the one running (on a fresh engine process, so that the
+    // next page does not wait for the stopped one); their callbacks are not called.
     void cancelAll();
     bool isBusy() const { return running_ != nullptr; }
+    // How long the running job has taken so far; 0 when idle.
+    qint64 busyMilliseconds() const { return running_ ? started_.elapsed() : 0; }
 
     // Renders one page and waits for it (the command line has no other work meanwhile).
     Result<QByteArray> renderAndWait(const QString& html, const QPageLayout& layout);
@@ -74,6 +80,7 @@ private:
     void finish(const Result<QByteArray>& result);
     void timedOut();
     void resetPage();
+    void dropEngine();
 
     QString localFolder_;
     Limits limits_;
@@ -84,6 +91,7 @@ private:
     std::unique_ptr<Job> running_;
     QString spillFile_;  // pages too large to hand over in memory go through this file
     QTimer watchdog_;
+    QElapsedTimer started_;
     quint64 generation_ = 0;  // tells a stopped job's late callbacks from the current one's
 };
 

@@ -1,0 +1,118 @@
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPdfDocument>
+#include <QPdfSelection>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "app/appdelegate.h"
+#include "app/designchooser.h"
+#include "app/designpreferences.h"
+#include "app/mainwindow.h"
+#include "app/previewpane.h"
+#include "app/renderactions.h"
+#include "app/sheets.h"
+#include "render/sampledocument.h"
+#include "support/testsupport.h"
+
+using namespace tamo;
+using namespace tamo::test;
+
+namespace {
+
+class RenderWindowTest : public ::testing::Test {
+protected:
+    RenderWindowTest()
+    {
+        QDir().mkpath(dir.profile().supportFolder);
+        Settings settings(dir.profile().settingsFile);
+        applySampleSettings(settings);
+        settings.set(key::tempPaperSize, 2);
+        auto context = openContext(dir.storePath());
+        insertSampleDocument(*context, QDateTime(QDate(2026, 3, 5), QTime(12, 0)), 30);
+        EXPECT_TRUE(context->save().has_value());
+    }
+
+    QString previewText()
+    {
+        QPdfDocument* pdf = actions().previewPane()->document();
+        QString text;
+        for (int page = 0; page < pdf->pageCount(); ++page) {
+            text += pdf->getAllText(page).text();
+        }
+        return text;
+    }
+    RenderWindowActions& actions() { return *delegate.window().findChild<RenderWindowActions*>(); }
+
+    TempProfile dir;
+    AppDelegate delegate{dir.profile()};
+};
+
+TEST_F(RenderWindowTest, ThePreviewFollowsEditsAndTheSheets)
+{
+    delegate.start();
+    MainWindow& window = delegate.window();
+    EXPECT_EQ(actions().designs().designs().size(), 13u);  // loaded by the store set-up
+    ASSERT_NE(window.findChild<QDockWidget*>(u"previewDock"_qs), nullptr);
+    PreviewPane* pane = actions().previewPane();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pane->pageCount() > 0; }, 30000));
+    EXPECT_GE(pane->pageCount(), 2);  // 30 lines
+    EXPECT_TRUE(previewText().contains(u"Nordlicht Studio GmbH"));
+
+    // An edit refreshes the preview.
+    Record* document = delegate.session().documents().current();
+    {
+        UndoGroup group(*delegate.session().context(), u"Edit"_qs);
+        document->setValue("customerName", u"Renamed Client AG"_qs);
+        document->setValue("address", u"Renamed Client AG\nSomewhere 1"_qs);
+    }
+    delegate.session().saveContext();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return previewText().contains(u"Renamed Client AG"); }, 30000));
+
+    // The reminder sheet's own button shows the reminder with the texts as edited.
+    QTimer::singleShot(0, [&] {
+        auto* sheet = window.findChild<VariantTextsSheet*>();
+        ASSERT_NE(sheet, nullptr);
+        auto* show = sheet->findChild<QPushButton*>(u"renderVariant"_qs);
+        ASSERT_NE(show, nullptr);
+        EXPECT_EQ(show->text(), u"Show Reminder");
+        sheet->findChild<QLineEdit*>()->setText(u"Second reminder"_qs);
+        show->click();
+    });
+    window.action(u"reminder"_qs)->trigger();
+    EXPECT_TRUE(actions().html().isReminderAction());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return previewText().contains(u"Second reminder"); }, 30000));
+}
+
+TEST_F(RenderWindowTest, TheChooserAndThePreferencesWorkOnTheDesigns)
+{
+    delegate.start();
+    MainWindow& window = delegate.window();
+    DesignChooser chooser(actions().designs(), actions().output(), &window);
+    EXPECT_EQ(chooser.list()->count(), 13);
+    chooser.list()->setCurrentRow(4);
+    EXPECT_FALSE(chooser.okButton()->isEnabled());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chooser.okButton()->isEnabled(); }, 30000));
+    chooser.closeTemplateSheet(false);  // Cancel goes back
+    EXPECT_EQ(actions().designs().selectedIndex(), 0);
+
+    PreferencesDialog preferences(delegate.session(), actions().designs(), &window);
+    DesignPane* pane = preferences.designPane();
+    EXPECT_EQ(pane->list()->count(), 13);
+    pane->list()->setCurrentRow(2);
+    Record* minimal = actions().designs().designs()[2];
+    EXPECT_EQ(pane->editor(2)->toPlainText(), minimal->string("css"));
+    pane->editor(2)->appendPlainText(u"/* edited */"_qs);
+    preferences.reject();  // closing writes what was typed
+    EXPECT_TRUE(minimal->string("css").endsWith(u"/* edited */"));
+    EXPECT_FALSE(delegate.session().context()->hasChanges());
+}
+
+}  // namespace
