@@ -1,5 +1,5 @@
-// main() for tests that print through the web engine: it needs a GUI application (off screen)
-// and its preparation before that application exists.
+// main() for tests that print through the web engine: it needs a GUI application (kept off
+// screen by testenvironment.cpp) and its preparation before that application exists.
 #include <gtest/gtest.h>
 #include <QGuiApplication>
 
@@ -7,14 +7,6 @@
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    // CTest's environment does not always arrive (see tamo_test); the engine refuses to start
-    // as root with its sandbox.
-    if (qEnvironmentVariableIsEmpty("QTWEBENGINE_CHROMIUM_FLAGS")) {
-        qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--no-sandbox");
-    }
     tamo::prepareRendering();
     QGuiApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
