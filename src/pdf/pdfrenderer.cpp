@@ -12,6 +12,8 @@
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
 
+#include <unistd.h>
+
 Q_LOGGING_CATEGORY(lcPdf, "tamo.pdf", QtInfoMsg)
 
 namespace tamo {
@@ -72,8 +74,14 @@ void prepareRendering()
     QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
     if (!flags.contains("webrtc-ip-handling-policy")) {
         flags += " --force-webrtc-ip-handling-policy=disable_non_proxied_udp";
-        qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
     }
+    // The engine cannot sandbox its page processes for root and refuses to start at all, which
+    // would take the window down with it. Pages stay confined to local data by the request
+    // filter.
+    if (::geteuid() == 0 && !flags.contains("--no-sandbox")) {
+        flags += " --no-sandbox";
+    }
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
 }
 
 int pdfPageCount(const QByteArray& pdf)
