@@ -34,15 +34,6 @@ std::expected<int, Failure> designIndex(DesignLibrary& designs, const QString& n
         Failure{QStringLiteral("there is no design %1 (see designs list)").arg(name)});
 }
 
-std::expected<Record*, Failure> currentDocument(AppSession& session, const QString& numberOrID)
-{
-    auto document = findDocument(session, numberOrID);
-    if (document) {
-        session.documents().setSelection({*document});
-    }
-    return document;
-}
-
 }  // namespace
 
 bool commandRendersPages(const QString& command)
@@ -79,7 +70,7 @@ std::optional<Failure> renderCommand(AppSession& session, const QStringList& arg
     if (number.isEmpty() || html.isEmpty() == pdf.isEmpty()) {
         return usage;
     }
-    auto document = currentDocument(session, number);
+    auto document = selectDocument(session, number);
     if (!document) {
         return document.error();
     }
@@ -249,7 +240,7 @@ std::optional<Failure> templatesCommand(AppSession& session, const QStringList& 
         return std::nullopt;
     }
     if (verb == u"create" && (args.size() == 2 || args.size() == 3)) {
-        auto document = currentDocument(session, args[1]);
+        auto document = selectDocument(session, args[1]);
         if (!document) {
             return document.error();
         }
@@ -266,7 +257,7 @@ std::optional<Failure> templatesCommand(AppSession& session, const QStringList& 
                    : usage;
     }
     if (verb == u"apply" && args.size() == 3) {
-        auto document = currentDocument(session, args[2]);
+        auto document = selectDocument(session, args[2]);
         if (!document) {
             return document.error();
         }
