@@ -16,10 +16,10 @@ QString money(float value)
 
 }  // namespace
 
-std::optional<Failure> recalcCommand(AppSession& session, const QStringList& args, QTextStream& out)
+std::optional<Failure> recalcCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
-    if (!args.isEmpty()) {
-        return Failure{QStringLiteral("usage: tamo recalc"), kUsageError};
+    if (args.operandCount() > 0) {
+        return args.usage();
     }
     Context& context = *session.context();
     {
@@ -38,12 +38,12 @@ std::optional<Failure> recalcCommand(AppSession& session, const QStringList& arg
     return std::nullopt;
 }
 
-std::optional<Failure> nextNumberCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> nextNumberCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out)
 {
-    const QString kind = args.value(0);
-    if (args.size() != 1 || (kind != u"invoice" && kind != u"quote" && kind != u"client")) {
-        return Failure{QStringLiteral("usage: tamo next-number invoice|quote|client"), kUsageError};
+    const QString kind = args.operand(0);
+    if (args.operandCount() != 1 || (kind != u"invoice" && kind != u"quote" && kind != u"client")) {
+        return args.usage();
     }
     {
         // The counts come from the statistics pass, as they do in the window.

@@ -30,14 +30,17 @@ QJsonValue jsonDate(const QDateTime& date)
 
 }  // namespace
 
-std::optional<Failure> listCommand(AppSession& session, const QStringList& args, QTextStream& out)
+std::optional<Failure> listCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
-    const bool json = args.contains(QStringLiteral("--json"));
-    for (const QString& a : args) {
-        if (a != u"--json") {
-            return Failure{QStringLiteral("list: unknown option %1").arg(a), kUsageError};
-        }
+    if (args.operandCount() > 0) {
+        return args.usage();
     }
+    printDocumentList(session, args.has(u"--json"_qs), out);
+    return std::nullopt;
+}
+
+void printDocumentList(AppSession& session, bool json, QTextStream& out)
+{
     const auto& documents = session.documents().arranged();
     if (json) {
         QJsonArray array;
@@ -54,7 +57,7 @@ std::optional<Failure> listCommand(AppSession& session, const QStringList& args,
                                      {QStringLiteral("currency"), d->string("currency")}});
         }
         out << QJsonDocument(array).toJson(QJsonDocument::Indented);
-        return std::nullopt;
+        return;
     }
     const QLocale c = QLocale::c();
     out << QStringLiteral("%1  %2  %3  %4  %5  %6  %7\n")
@@ -76,183 +79,221 @@ std::optional<Failure> listCommand(AppSession& session, const QStringList& args,
                    .arg(c.toString(d->decimal("amount"), 'f', 2), 14)
                    .arg(d->string("currency"));
     }
-    return std::nullopt;
 }
 
-std::optional<Failure> settingsCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> settingsCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out)
 {
-    const QString verb = args.value(0);
-    if (!((verb == u"get" && args.size() == 2) || (verb == u"set" && args.size() == 3))) {
-        return Failure{QStringLiteral("usage: tamo settings get KEY | settings set KEY VALUE"),
-                       kUsageError};
+    const QString verb = args.operand(0);
+    const qsizetype count = args.operandCount();
+    if (!((verb == u"get" && count == 2) || (verb == u"set" && count == 3))) {
+        return args.usage();
     }
-    const SettingKey* key = findSettingKey(args[1].toStdString());
+    const SettingKey* key = findSettingKey(args.operand(1).toStdString());
     if (!key) {
-        return Failure{QStringLiteral("there is no setting named %1").arg(args[1])};
+        return Failure{QStringLiteral("there is no setting named %1").arg(args.operand(1))};
     }
     if (verb == u"get") {
         out << Settings::toText(session.settings().value(*key)) << '\n';
         return std::nullopt;
     }
-    const auto value = Settings::fromText(*key, args[2]);
+    const auto value = Settings::fromText(*key, args.operand(2));
     if (!value) {
-        return Failure{QStringLiteral("%1 is not a valid value for %2").arg(args[2], args[1])};
+        return Failure{
+            QStringLiteral("%1 is not a valid value for %2").arg(args.operand(2), args.operand(1))};
     }
     session.settings().set(*key, *value);
     return std::nullopt;
 }
 
-std::optional<Failure> generateSampleCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> generateSampleCommand(AppSession& session, const CommandArgs& args,
                                              QTextStream& out)
 {
+    if (args.operandCount() > 0) {
+        return args.usage();
+    }
     SampleOptions options;
-    for (int i = 0; i < args.size(); i += 2) {
-        bool ok = false;
-        const int value = args.value(i + 1).toInt(&ok);
-        if (!ok) {
-            return Failure{QStringLiteral("generate-sample: %1 needs a whole number").arg(args[i]),
-                           kUsageError};
-        }
-        if (args[i] == u"--documents") {
-            options.documents = value;
-        } else if (args[i] == u"--items-per-document") {
-            options.itemsPerDocument = value;
-        } else if (args[i] == u"--clients") {
-            options.clients = value;
-        } else if (args[i] == u"--seed") {
-            options.seed = quint32(value);
-        } else {
-            return Failure{QStringLiteral("generate-sample: unknown option %1").arg(args[i]),
-                           kUsageError};
+    const std::pair<QString, int*> counts[] = {
+        {u"--documents"_qs, &options.documents},
+        {u"--items-per-document"_qs, &options.itemsPerDocument},
+        {u"--clients"_qs, &options.clients},
+    };
+    for (const auto& [option, target] : counts) {
+        if (args.has(option)) {
+            bool ok = false;
+            *target = args.value(option).toInt(&ok);
+            if (!ok || *target < 0) {
+                return args.usage(QStringLiteral("%1 needs a whole number").arg(option));
+            }
         }
     }
-    auto counts = generateSample(*session.context(), session.clock(), options);
-    if (!counts) {
-        return Failure{counts.error().text()};
+    if (args.has(u"--seed"_qs)) {
+        bool ok = false;
+        options.seed = args.value(u"--seed"_qs).toUInt(&ok);
+        if (!ok) {
+            return args.usage(u"--seed needs a whole number"_qs);
+        }
+    }
+    auto generated = generateSample(*session.context(), session.clock(), options);
+    if (!generated) {
+        return Failure{generated.error().text()};
     }
     out << QStringLiteral("Generated %1 documents with %2 lines and %3 clients.\n")
-               .arg(counts->documents)
-               .arg(counts->items)
-               .arg(counts->clients);
+               .arg(generated->documents)
+               .arg(generated->items)
+               .arg(generated->clients);
     return std::nullopt;
 }
 
 namespace {
 
-// Every command: its name, whether it needs the store, and what runs it.
+// Every command: its synopsis (name first; the options it names are the only ones accepted), a
+// note for the help, whether it needs the store, and what runs it.
 struct CommandEntry {
-    const char16_t* name;
+    const char16_t* synopsis;
+    const char16_t* note;
     bool needsStore;
     Command run;
+
+    QString text() const { return QString::fromUtf16(synopsis); }
+    QString name() const { return text().section(u' ', 0, 0); }
 };
 
 const CommandEntry kCommands[] = {
-    {u"list", true, listCommand},
-    {u"settings", false, settingsCommand},
-    {u"generate-sample", true, generateSampleCommand},
-    {u"recalc", true, recalcCommand},
-    {u"next-number", true, nextNumberCommand},
-    {u"backup-invoices", true, backupInvoicesCommand},
-    {u"restore-invoices", true, restoreInvoicesCommand},
-    {u"backup-items", true, backupItemsCommand},
-    {u"restore-items", true, restoreItemsCommand},
-    {u"export-xml", true, exportXmlCommand},
-    {u"export-shown-xml", true, exportShownXmlCommand},
-    {u"backup-complete", true, backupCompleteCommand},
-    {u"restore-complete", false, restoreCompleteCommand},
-    {u"dump", true, dumpCommand},
-    {u"import-document", true, importDocumentCommand},
-    {u"export-raw", true, exportRawCommand},
-    {u"import-raw", true, importRawCommand},
-    {u"move-from-flatpak", false, moveFromFlatpakCommand},
-    {u"safety-copy", true, safetyCopyCommand},
-    {u"restore-safety-copy", true, restoreSafetyCopyCommand},
-    {u"recover", false, recoverCommand},
-    {u"open", false, openFileCommand},
-    {u"new-invoice", true, newInvoiceCommand},
-    {u"new-quote", true, newQuoteCommand},
-    {u"duplicate", true, duplicateCommand},
-    {u"convert", true, convertCommand},
-    {u"delete", true, deleteCommand},
-    {u"set-status", true, setStatusCommand},
-    {u"dispatch", true, dispatchCommand},
-    {u"filter", true, filterCommand},
-    {u"add-item", true, addItemCommand},
-    {u"set-client", true, setClientCommand},
-    {u"einvoice", true, einvoiceCommand},
-    {u"einvoice-check", true, einvoiceCheckCommand},
-    {u"einvoice-details", true, einvoiceDetailsCommand},
-    {u"einvoice-notice", false, einvoiceNoticeCommand},
-    {u"render", true, renderCommand},
-    {u"export-pdfs", true, exportPdfsCommand},
-    {u"designs", true, designsCommand},
-    {u"templates", true, templatesCommand},
+    {u"list [--json]", u"the listed documents, newest first", true, listCommand},
+    {u"settings get KEY | set KEY VALUE", nullptr, false, settingsCommand},
+    {u"generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]", nullptr,
+     true, generateSampleCommand},
+    {u"recalc", u"recalculates every document and prints the sums", true, recalcCommand},
+    {u"next-number invoice|quote|client", nullptr, true, nextNumberCommand},
+    {u"backup-invoices FILE", u"XML property list, .tamoinvoices", true, backupInvoicesCommand},
+    {u"restore-invoices FILE", nullptr, true, restoreInvoicesCommand},
+    {u"backup-items FILE", u"XML property list, .tamoitems", true, backupItemsCommand},
+    {u"restore-items FILE", nullptr, true, restoreItemsCommand},
+    {u"export-xml FILE", u"every invoice", true, exportXmlCommand},
+    {u"export-shown-xml FILE", u"the listed invoices", true, exportShownXmlCommand},
+    {u"backup-complete FILE", u"the store file, .tamo2db", true, backupCompleteCommand},
+    {u"restore-complete FILE", nullptr, false, restoreCompleteCommand},
+    {u"dump FILE", u"keyed archive of every invoice, .invdump", true, dumpCommand},
+    {u"import-document FILE", u"a document file, .tamo", true, importDocumentCommand},
+    {u"export-raw FILE", u"a raw store copy, .sqlite", true, exportRawCommand},
+    {u"import-raw FILE", nullptr, true, importRawCommand},
+    {u"move-from-flatpak", nullptr, false, moveFromFlatpakCommand},
+    {u"safety-copy [--at-start]", nullptr, true, safetyCopyCommand},
+    {u"restore-safety-copy", nullptr, true, restoreSafetyCopyCommand},
+    {u"recover [SNAPSHOT]", u"without SNAPSHOT: lists the recovery copies", false, recoverCommand},
+    {u"open FILE", nullptr, false, openFileCommand},
+    {u"new-invoice", nullptr, true, newInvoiceCommand},
+    {u"new-quote", nullptr, true, newQuoteCommand},
+    {u"duplicate N [--with-items]", nullptr, true, duplicateCommand},
+    {u"convert N", u"a quote into an invoice", true, convertCommand},
+    {u"delete N [--adjust-counter]", nullptr, true, deleteCommand},
+    {u"set-status N 0..4 [--paid-amount X]", nullptr, true, setStatusCommand},
+    {u"dispatch N", nullptr, true, dispatchCommand},
+    {u"filter TAG [--json]", u"0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent", true,
+     filterCommand},
+    {u"add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT] "
+     u"[--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]",
+     nullptr, true, addItemCommand},
+    {u"set-client N (--vcard FILE [--index I] | --remembered ID)", u"I counts from 0", true,
+     setClientCommand},
+    {u"einvoice N FILE [--force]", u"XRechnung XML of document N, after the readiness check", true,
+     einvoiceCommand},
+    {u"einvoice-check N", nullptr, true, einvoiceCheckCommand},
+    {u"einvoice-details N [KEY=VALUE ...]", nullptr, true, einvoiceDetailsCommand},
+    {u"einvoice-notice", nullptr, false, einvoiceNoticeCommand},
+    {u"render N (--html FILE|- | --pdf FILE) [--reminder | --slip] [--design INDEX|TITLE]", nullptr,
+     true, renderCommand},
+    {u"export-pdfs DIR [--filter TAG]", u"every listed document, DIR/NUMBER_N.pdf", true,
+     exportPdfsCommand},
+    {u"designs list | add | import FILE | export INDEX FILE | default INDEX | select INDEX | "
+     u"delete INDEX",
+     nullptr, true, designsCommand},
+    {u"templates list | create N [NOTES] | apply INDEX N | delete INDEX", nullptr, true,
+     templatesCommand},
 };
+
+const CommandEntry* findCommand(const QString& name)
+{
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.name() == name) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+// The global options may stand anywhere before "--"; everything else belongs to the command.
+bool takeGlobalOption(Invocation& inv, const QStringList& arguments, int& i)
+{
+    const QString& a = arguments[i];
+    if (a == u"--store") {
+        if (i + 1 >= arguments.size()) {
+            inv.error = QStringLiteral("--store needs a folder");
+        } else {
+            inv.storeDirectory = arguments[++i];
+        }
+        return true;
+    }
+    if (a.startsWith(u"--store=")) {
+        inv.storeDirectory = a.mid(8);
+        return true;
+    }
+    if (a == u"--yes") {
+        inv.assumeYes = true;
+        return true;
+    }
+    return false;
+}
 
 }  // namespace
 
 QString usage()
 {
-    return QStringLiteral(
+    QString text = QStringLiteral(
         "usage: tamo [--store DIR] [--yes] [COMMAND ...]\n"
-        "  Without a command, opens the window.\n"
+        "  Without a command, opens the window. Options may stand anywhere; \"--\" ends them.\n"
         "  --store DIR   keep store, settings and data files in DIR\n"
         "  --yes         answer questions with their default button\n"
-        "commands:\n"
-        "  list [--json]\n"
-        "  settings get KEY | settings set KEY VALUE\n"
-        "  generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]\n"
-        "  recalc\n"
-        "  next-number invoice|quote|client\n"
-        "  backup-invoices FILE | restore-invoices FILE   (XML property list, .tamoinvoices)\n"
-        "  backup-items FILE | restore-items FILE         (XML property list, .tamoitems)\n"
-        "  export-xml FILE | export-shown-xml FILE        (all invoices | the listed ones)\n"
-        "  backup-complete FILE | restore-complete FILE   (the store file, .tamo2db)\n"
-        "  dump FILE | import-document FILE               (keyed archives, .invdump | .tamo)\n"
-        "  export-raw FILE | import-raw FILE              (raw store copies, .sqlite)\n"
-        "  safety-copy [--at-start] | restore-safety-copy\n"
-        "  move-from-flatpak\n"
-        "  recover [SNAPSHOT]   (without SNAPSHOT: lists the recovery copies)\n"
-        "  open FILE\n"
-        "  new-invoice | new-quote\n"
-        "  duplicate N [--with-items] | convert N | delete N [--adjust-counter]\n"
-        "  set-status N 0..4 [--paid-amount X] | dispatch N\n"
-        "  filter TAG [--json]   (0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent)\n"
-        "  add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT]\n"
-        "           [--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]\n"
-        "  set-client N (--vcard FILE [--index I] | --remembered ID)   (I counts from 0)\n"
-        "  einvoice N FILE [--force]   (XRechnung XML of document N, after the readiness check)\n"
-        "  einvoice-check N | einvoice-details N [KEY=VALUE ...] | einvoice-notice\n"
-        "  render N (--html FILE|- | --pdf FILE) [--reminder|--slip] [--design INDEX|TITLE]\n"
-        "  export-pdfs DIR [--filter TAG]   (every listed document, FOLDER/NUMBER_N.pdf)\n"
-        "  designs list | add | import FILE | export INDEX FILE | default INDEX\n"
-        "          | select INDEX | delete INDEX\n"
-        "  templates list | create N [NOTES] | apply INDEX N | delete INDEX\n");
+        "  COMMAND --help, or tamo help COMMAND, tells more of one command.\n"
+        "commands:\n");
+    for (const CommandEntry& entry : kCommands) {
+        text += QStringLiteral("  %1\n").arg(entry.text());
+    }
+    return text;
+}
+
+QString commandHelp(const QString& name)
+{
+    const CommandEntry* entry = findCommand(name);
+    if (!entry) {
+        return QString();
+    }
+    QString text = QStringLiteral("usage: tamo %1\n").arg(entry->text());
+    if (entry->note) {
+        text += QStringLiteral("  %1\n").arg(QString::fromUtf16(entry->note));
+    }
+    return text;
 }
 
 Invocation parseInvocation(const QStringList& arguments)
 {
     Invocation inv;
-    for (int i = 1; i < arguments.size(); ++i) {
+    bool optionsEnded = false;
+    for (int i = 1; i < arguments.size() && inv.error.isEmpty(); ++i) {
         const QString& a = arguments[i];
+        if (!optionsEnded && takeGlobalOption(inv, arguments, i)) {
+            continue;
+        }
         if (!inv.command.isEmpty()) {
+            optionsEnded = optionsEnded || a == u"--";
             inv.command << a;
-        } else if (a == u"--store") {
-            if (i + 1 >= arguments.size()) {
-                inv.error = QStringLiteral("--store needs a folder");
-                return inv;
-            }
-            inv.storeDirectory = arguments[++i];
-        } else if (a == u"--yes") {
-            inv.assumeYes = true;
         } else if (a.startsWith(u"tamo:", Qt::CaseInsensitive)) {
             inv.url = a;
+        } else if (a == u"--help" || a == u"-h") {
+            inv.command << QStringLiteral("help");
         } else if (a.startsWith(u'-')) {
             // Options of the windowing system (-platform, -style, ...) are Qt's to read.
-            if (a == u"--help" || a == u"-h") {
-                inv.command << QStringLiteral("help");
-            }
         } else {
             inv.command << a;
         }
@@ -275,17 +316,23 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     const QString name = file ? u"open"_qs : inv.command.value(0);
     const QStringList args = file ? inv.command : inv.command.mid(1);
     if (name == u"help") {
-        out << usage();
+        const QString help = commandHelp(args.value(0));
+        out << (help.isEmpty() ? usage() : help);
         return 0;
     }
-    const CommandEntry* command = nullptr;
-    for (const CommandEntry& entry : kCommands) {
-        if (name == QStringView(entry.name)) {
-            command = &entry;
-        }
-    }
+    const CommandEntry* command = findCommand(name);
     if (!command) {
         return report(QStringLiteral("unknown command \"%1\"\n%2").arg(name, usage()), kUsageError);
+    }
+    const qsizetype end = args.indexOf(u"--"_qs);
+    const QStringList options = end < 0 ? args : args.first(end);
+    if (options.contains(u"--help"_qs) || options.contains(u"-h"_qs)) {
+        out << commandHelp(name);
+        return 0;
+    }
+    const auto words = CommandArgs::parse(command->text(), args);
+    if (!words) {
+        return report(words.error().message, words.error().code);
     }
 
     const Profile profile = inv.storeDirectory.isEmpty() ? Profile::standard()
@@ -309,7 +356,7 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         WithoutUndo automatic(*context);
         Totals(session).calculateDatabase();
     }
-    if (auto failure = command->run(session, args, out)) {
+    if (auto failure = command->run(session, *words, out)) {
         return report(failure->message, failure->code);
     }
     out.flush();

@@ -6,7 +6,8 @@
 
 namespace tamo {
 
-// The arguments shared by the window and the commands: `tamo [--store DIR] [--yes] COMMAND ...`.
+// The arguments shared by the window and the commands: `tamo [--store DIR] [--yes] COMMAND ...`,
+// the two global options anywhere before "--".
 struct Invocation {
     QString storeDirectory;  // empty: the user's own folders
     bool assumeYes = false;
@@ -22,5 +23,7 @@ Invocation parseInvocation(const QStringList& arguments);
 int runCommand(const Invocation& invocation, QTextStream& out, QTextStream& err);
 
 QString usage();
+// The usage and note of one command; empty for an unknown command.
+QString commandHelp(const QString& command);
 
 }  // namespace tamo

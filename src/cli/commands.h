@@ -5,18 +5,12 @@
 #include <expected>
 #include <optional>
 
+#include "cli/commandargs.h"
+
 namespace tamo {
 
 class AppSession;
 class Record;
-
-inline constexpr int kUsageError = 2;
-
-// A command's failure: one line for the error stream and the exit code.
-struct Failure {
-    QString message;
-    int code = 1;
-};
 
 // The document a command names by its number or its uniqueID; a number two documents share is
 // refused, so that a command never acts on the wrong one.
@@ -25,66 +19,69 @@ std::expected<Record*, Failure> findDocument(AppSession& session, const QString&
 // act on the current document.
 std::expected<Record*, Failure> selectDocument(AppSession& session, const QString& numberOrID);
 
-// A command runs on an open session (the store is open when it needs one), writes its result to
-// `out` and returns a failure or nothing. The session saves after it.
-using Command = std::optional<Failure> (*)(AppSession& session, const QStringList& args,
+// A command runs on an open session (the store is open when it needs one) with its words already
+// checked against its synopsis, writes its result to `out` and returns a failure or nothing. The
+// session saves after it.
+using Command = std::optional<Failure> (*)(AppSession& session, const CommandArgs& args,
                                            QTextStream& out);
 
-std::optional<Failure> listCommand(AppSession& session, const QStringList& args, QTextStream& out);
-std::optional<Failure> settingsCommand(AppSession& session, const QStringList& args,
+// The arranged list as a table, or as JSON for scripts.
+void printDocumentList(AppSession& session, bool json, QTextStream& out);
+std::optional<Failure> listCommand(AppSession& session, const CommandArgs& args, QTextStream& out);
+std::optional<Failure> settingsCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out);
-std::optional<Failure> generateSampleCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> generateSampleCommand(AppSession& session, const CommandArgs& args,
                                              QTextStream& out);
-std::optional<Failure> recalcCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> recalcCommand(AppSession& session, const CommandArgs& args,
                                      QTextStream& out);
-std::optional<Failure> nextNumberCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> nextNumberCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out);
 
 // The data actions of the File menu (interchangecommands.cpp).
-std::optional<Failure> backupInvoicesCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> restoreInvoicesCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> backupItemsCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> restoreItemsCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> exportXmlCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> exportShownXmlCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> backupCompleteCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> restoreCompleteCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> dumpCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> importDocumentCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> exportRawCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> importRawCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> moveFromFlatpakCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> safetyCopyCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> recoverCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> openFileCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> backupInvoicesCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> restoreInvoicesCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> backupItemsCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> restoreItemsCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> exportXmlCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> exportShownXmlCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> backupCompleteCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> restoreCompleteCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> dumpCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> importDocumentCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> exportRawCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> importRawCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> moveFromFlatpakCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> safetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> recoverCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> openFileCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // The e-invoice (einvoicecommands.cpp).
-std::optional<Failure> einvoiceCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> einvoiceCheckCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> einvoiceDetailsCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> einvoiceNoticeCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> einvoiceCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> einvoiceCheckCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> einvoiceDetailsCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> einvoiceNoticeCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // Lines and clients of a document (linecommands.cpp).
-std::optional<Failure> addItemCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> setClientCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> addItemCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> setClientCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // Pages, PDF files and designs (rendercommands.cpp). The commands that print pages need the web
 // engine, so `main` runs them in a GUI application off screen.
 bool commandRendersPages(const QString& command);
-std::optional<Failure> renderCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> exportPdfsCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> designsCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> templatesCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> renderCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> exportPdfsCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> designsCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> templatesCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // Documents: create, duplicate, convert, delete, status, dispatch, filters.
-std::optional<Failure> newInvoiceCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> newQuoteCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> duplicateCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> convertCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> deleteCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> setStatusCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> dispatchCommand(AppSession&, const QStringList&, QTextStream&);
-std::optional<Failure> filterCommand(AppSession&, const QStringList&, QTextStream&);
+std::optional<Failure> newInvoiceCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> newQuoteCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> duplicateCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> convertCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> deleteCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> setStatusCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> dispatchCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> filterCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 }  // namespace tamo

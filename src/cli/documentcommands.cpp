@@ -21,23 +21,20 @@ QString describe(const Record* d)
                             : QStringLiteral("%1 %2 (%3)").arg(kind, number, d->uniqueID());
 }
 
-// The named document as the current one, after checking the command's words.
-std::expected<Record*, Failure> select(AppSession& session, const QStringList& args, int count,
-                                       const QString& usage)
+// The named document as the current one, after checking the number of operands.
+std::expected<Record*, Failure> select(AppSession& session, const CommandArgs& args, int count)
 {
-    if (args.size() < count || args.value(0).startsWith(u'-')) {
-        return std::unexpected(Failure{QStringLiteral("usage: tamo %1").arg(usage), kUsageError});
+    if (args.operandCount() != count) {
+        return std::unexpected(args.usage());
     }
-    return selectDocument(session, args[0]);
+    return selectDocument(session, args.operand(0));
 }
 
-std::optional<Failure> create(AppSession& session, const QStringList& args, QTextStream& out,
+std::optional<Failure> create(AppSession& session, const CommandArgs& args, QTextStream& out,
                               bool invoice)
 {
-    if (!args.isEmpty()) {
-        return Failure{invoice ? QStringLiteral("usage: tamo new-invoice")
-                               : QStringLiteral("usage: tamo new-quote"),
-                       kUsageError};
+    if (args.operandCount() > 0) {
+        return args.usage();
     }
     DocumentLifecycle lifecycle(session);
     Record* d = invoice ? lifecycle.addInvoice() : lifecycle.addQuote();
@@ -47,38 +44,35 @@ std::optional<Failure> create(AppSession& session, const QStringList& args, QTex
 
 }  // namespace
 
-std::optional<Failure> newInvoiceCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> newInvoiceCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out)
 {
     return create(session, args, out, true);
 }
 
-std::optional<Failure> newQuoteCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> newQuoteCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out)
 {
     return create(session, args, out, false);
 }
 
-std::optional<Failure> duplicateCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> duplicateCommand(AppSession& session, const CommandArgs& args,
                                         QTextStream& out)
 {
-    const bool withItems = args.contains(u"--with-items"_qs);
-    auto source = select(session, args, 1, u"duplicate N [--with-items]"_qs);
+    const bool withItems = args.has(u"--with-items"_qs);
+    auto source = select(session, args, 1);
     if (!source) {
         return source.error();
-    }
-    if (args.size() > (withItems ? 2 : 1)) {
-        return Failure{u"usage: tamo duplicate N [--with-items]"_qs, kUsageError};
     }
     Record* copy = DocumentLifecycle(session).duplicateInvoice(withItems);
     out << "Created " << describe(copy) << " as a copy of " << describe(*source) << '\n';
     return std::nullopt;
 }
 
-std::optional<Failure> convertCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> convertCommand(AppSession& session, const CommandArgs& args,
                                       QTextStream& out)
 {
-    auto d = select(session, args, 1, u"convert N"_qs);
+    auto d = select(session, args, 1);
     if (!d) {
         return d.error();
     }
@@ -89,10 +83,10 @@ std::optional<Failure> convertCommand(AppSession& session, const QStringList& ar
     return std::nullopt;
 }
 
-std::optional<Failure> deleteCommand(AppSession& session, const QStringList& args, QTextStream& out)
+std::optional<Failure> deleteCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
-    const bool adjust = args.contains(u"--adjust-counter"_qs);
-    auto d = select(session, args, 1, u"delete N [--adjust-counter]"_qs);
+    const bool adjust = args.has(u"--adjust-counter"_qs);
+    auto d = select(session, args, 1);
     if (!d) {
         return d.error();
     }
@@ -107,25 +101,25 @@ std::optional<Failure> deleteCommand(AppSession& session, const QStringList& arg
     return std::nullopt;
 }
 
-std::optional<Failure> setStatusCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> setStatusCommand(AppSession& session, const CommandArgs& args,
                                         QTextStream& out)
 {
-    const QString usage = u"set-status N 0..4 [--paid-amount X]"_qs;
-    auto d = select(session, args, 2, usage);
-    if (!d) {
-        return d.error();
-    }
     bool ok = false;
-    const int status = args[1].toInt(&ok);
-    if (!ok || status < 0 || status > 4) {
-        return Failure{QStringLiteral("usage: tamo %1").arg(usage), kUsageError};
+    const int status = args.operand(1).toInt(&ok);
+    if (args.operandCount() == 2 && (!ok || status < 0 || status > 4)) {
+        return args.usage(
+            QStringLiteral("the status is a number from 0 to 4, not %1").arg(args.operand(1)));
     }
     std::optional<double> paid;
-    if (const qsizetype i = args.indexOf(u"--paid-amount"_qs); i >= 0) {
-        paid = QLocale::c().toDouble(args.value(i + 1), &ok);
+    if (args.has(u"--paid-amount"_qs)) {
+        paid = QLocale::c().toDouble(args.value(u"--paid-amount"_qs), &ok);
         if (!ok) {
-            return Failure{u"--paid-amount needs a number such as 120.50"_qs, kUsageError};
+            return args.usage(u"--paid-amount needs a number such as 120.50"_qs);
         }
+    }
+    auto d = select(session, args, 2);
+    if (!d) {
+        return d.error();
     }
     {
         UndoGroup group(*session.context(), u"Set Status"_qs);
@@ -139,10 +133,10 @@ std::optional<Failure> setStatusCommand(AppSession& session, const QStringList& 
     return std::nullopt;
 }
 
-std::optional<Failure> dispatchCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> dispatchCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out)
 {
-    auto d = select(session, args, 1, u"dispatch N"_qs);
+    auto d = select(session, args, 1);
     if (!d) {
         return d.error();
     }
@@ -151,15 +145,16 @@ std::optional<Failure> dispatchCommand(AppSession& session, const QStringList& a
     return std::nullopt;
 }
 
-std::optional<Failure> filterCommand(AppSession& session, const QStringList& args, QTextStream& out)
+std::optional<Failure> filterCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
     bool ok = false;
-    const int tag = args.value(0).toInt(&ok);
-    if (!ok || args.size() > 2) {
-        return Failure{u"usage: tamo filter TAG [--json]   (TAG 0 to 8)"_qs, kUsageError};
+    const int tag = args.operand(0).toInt(&ok);
+    if (args.operandCount() != 1 || !ok || tag < 0 || tag > 8) {
+        return args.usage(u"TAG is a number from 0 to 8"_qs);
     }
     DocumentLifecycle(session).selectFilter(tag);
-    return listCommand(session, args.mid(1), out);
+    printDocumentList(session, args.has(u"--json"_qs), out);
+    return std::nullopt;
 }
 
 }  // namespace tamo

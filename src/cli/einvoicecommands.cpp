@@ -19,13 +19,13 @@ Failure alreadySent(const QString& document)
 
 }  // namespace
 
-std::optional<Failure> einvoiceCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> einvoiceCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out)
 {
-    QStringList operands = args;
-    const bool force = operands.removeAll(QStringLiteral("--force")) > 0;
+    const QStringList& operands = args.operands();
+    const bool force = args.has(u"--force"_qs);
     if (operands.size() != 2) {
-        return Failure{QStringLiteral("usage: tamo einvoice N FILE [--force]"), kUsageError};
+        return args.usage();
     }
     auto document = selectDocument(session, operands[0]);
     if (!document) {
@@ -52,26 +52,26 @@ std::optional<Failure> einvoiceCommand(AppSession& session, const QStringList& a
     return std::nullopt;
 }
 
-std::optional<Failure> einvoiceCheckCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> einvoiceCheckCommand(AppSession& session, const CommandArgs& args,
                                             QTextStream& out)
 {
-    if (args.size() != 1) {
-        return Failure{QStringLiteral("usage: tamo einvoice-check N"), kUsageError};
+    if (args.operandCount() != 1) {
+        return args.usage();
     }
-    auto document = selectDocument(session, args[0]);
+    auto document = selectDocument(session, args.operand(0));
     if (!document) {
         return document.error();
     }
     const Readiness readiness = EinvoiceActions(session).isEvoiceActionPossible();
     if (!readiness.possible()) {
         out << "not possible: " << readiness.reason() << '\n';
-        return Failure{QStringLiteral("%1 cannot become an e-invoice yet").arg(args[0])};
+        return Failure{QStringLiteral("%1 cannot become an e-invoice yet").arg(args.operand(0))};
     }
     out << "possible\n";
     return std::nullopt;
 }
 
-std::optional<Failure> einvoiceDetailsCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> einvoiceDetailsCommand(AppSession& session, const CommandArgs& args,
                                               QTextStream& out)
 {
     const auto fields = evoiceDetailFields();
@@ -80,30 +80,27 @@ std::optional<Failure> einvoiceDetailsCommand(AppSession& session, const QString
         keys << QString::fromLatin1(field.key);
     }
     const auto usage = [&] {
-        return Failure{QStringLiteral("usage: tamo einvoice-details N [KEY=VALUE ...] with KEY one "
-                                      "of %1")
-                           .arg(keys.join(u", ")),
-                       kUsageError};
+        return args.usage(QStringLiteral("KEY is one of %1").arg(keys.join(u", ")));
     };
-    if (args.isEmpty()) {
+    if (args.operandCount() == 0) {
         return usage();
     }
     // Every assignment is understood before the first is made.
     QList<std::pair<QString, QString>> changes;
-    for (const QString& assignment : args.mid(1)) {
+    for (const QString& assignment : args.operands().mid(1)) {
         const QString key = assignment.section(u'=', 0, 0);
         if (!assignment.contains(u'=') || !keys.contains(key)) {
             return usage();
         }
         changes.append({key, assignment.section(u'=', 1)});
     }
-    auto document = selectDocument(session, args[0]);
+    auto document = selectDocument(session, args.operand(0));
     if (!document) {
         return document.error();
     }
     EinvoiceActions actions(session);
     if (!changes.isEmpty() && actions.isCurrentInvoiceSent()) {
-        return alreadySent(args[0]);
+        return alreadySent(args.operand(0));
     }
     for (const auto& [key, value] : changes) {
         actions.setEvoiceDetail(key.toStdString(), value);
@@ -115,10 +112,10 @@ std::optional<Failure> einvoiceDetailsCommand(AppSession& session, const QString
     return std::nullopt;
 }
 
-std::optional<Failure> einvoiceNoticeCommand(AppSession&, const QStringList& args, QTextStream& out)
+std::optional<Failure> einvoiceNoticeCommand(AppSession&, const CommandArgs& args, QTextStream& out)
 {
-    if (!args.isEmpty()) {
-        return Failure{QStringLiteral("usage: tamo einvoice-notice"), kUsageError};
+    if (args.operandCount() > 0) {
+        return args.usage();
     }
     const EinvoiceNotice notice = einvoiceNotice();
     out << notice.title << "\n\n" << notice.text << "\n\n";

@@ -55,98 +55,103 @@ std::optional<Failure> outcome(ActionResult result, const QString& name)
     return Failure{QStringLiteral("%1 failed").arg(name)};
 }
 
-// Runs one action; `file` is what its panel is answered with.
-std::optional<Failure> run(AppSession& session, const QStringList& args, const char16_t* usage,
-                           Action action)
+std::optional<Failure> runWithFile(AppSession& session, const QString& file, const QString& name,
+                                   Action action)
 {
-    const QString text = QString::fromUtf16(usage);
-    const bool takesFile = text.contains(u" FILE");
-    if (args.size() != (takesFile ? 1 : 0)) {
-        return Failure{QStringLiteral("usage: tamo %1").arg(text), kUsageError};
-    }
-    ArgumentPrompter prompter(session.prompter(), args.value(0));
+    ArgumentPrompter prompter(session.prompter(), file);
     DataInterchange operations(session, prompter);
-    return outcome((operations.*action)(), text.section(u' ', 0, 0));
+    return outcome((operations.*action)(), name);
+}
+
+// Runs one action; the file operand, when the synopsis names one, answers its panel.
+std::optional<Failure> run(AppSession& session, const CommandArgs& args, Action action)
+{
+    const QString name = args.synopsis().section(u' ', 0, 0);
+    const bool takesFile = args.synopsis().contains(u" FILE");
+    if (args.operandCount() != (takesFile ? 1 : 0)) {
+        return args.usage();
+    }
+    return runWithFile(session, args.operand(0), name, action);
 }
 
 }  // namespace
 
-std::optional<Failure> backupInvoicesCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> backupInvoicesCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"backup-invoices FILE", &DataInterchange::backupTamoData);
+    return run(s, a, &DataInterchange::backupTamoData);
 }
 
-std::optional<Failure> restoreInvoicesCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> restoreInvoicesCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"restore-invoices FILE", &DataInterchange::restoreTamoData);
+    return run(s, a, &DataInterchange::restoreTamoData);
 }
 
-std::optional<Failure> backupItemsCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> backupItemsCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"backup-items FILE", &DataInterchange::backupItems);
+    return run(s, a, &DataInterchange::backupItems);
 }
 
-std::optional<Failure> restoreItemsCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> restoreItemsCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"restore-items FILE", &DataInterchange::restoreItems);
+    return run(s, a, &DataInterchange::restoreItems);
 }
 
-std::optional<Failure> exportXmlCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> exportXmlCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"export-xml FILE", &DataInterchange::exportTamoDataXML);
+    return run(s, a, &DataInterchange::exportTamoDataXML);
 }
 
-std::optional<Failure> exportShownXmlCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> exportShownXmlCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"export-shown-xml FILE", &DataInterchange::exportItems);
+    return run(s, a, &DataInterchange::exportItems);
 }
 
-std::optional<Failure> backupCompleteCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> backupCompleteCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"backup-complete FILE", &DataInterchange::backupCompleteTamoData);
+    return run(s, a, &DataInterchange::backupCompleteTamoData);
 }
 
-std::optional<Failure> restoreCompleteCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> restoreCompleteCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"restore-complete FILE", &DataInterchange::restoreCompleteTamoData);
+    return run(s, a, &DataInterchange::restoreCompleteTamoData);
 }
 
-std::optional<Failure> dumpCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> dumpCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"dump FILE", &DataInterchange::exportAsInvoiceFile);
+    return run(s, a, &DataInterchange::exportAsInvoiceFile);
 }
 
-std::optional<Failure> importDocumentCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> importDocumentCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"import-document FILE", &DataInterchange::importInvoice);
+    return run(s, a, &DataInterchange::importInvoice);
 }
 
-std::optional<Failure> exportRawCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> exportRawCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"export-raw FILE", &DataInterchange::backupCDAction);
+    return run(s, a, &DataInterchange::backupCDAction);
 }
 
-std::optional<Failure> importRawCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> importRawCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"import-raw FILE", &DataInterchange::restoreCDAction);
+    return run(s, a, &DataInterchange::restoreCDAction);
 }
 
-std::optional<Failure> moveFromFlatpakCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> moveFromFlatpakCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"move-from-flatpak", &DataInterchange::restoreAutomaticallyFromSandbox);
+    return run(s, a, &DataInterchange::restoreAutomaticallyFromSandbox);
 }
 
-std::optional<Failure> restoreSafetyCopyCommand(AppSession& s, const QStringList& a, QTextStream&)
+std::optional<Failure> restoreSafetyCopyCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
-    return run(s, a, u"restore-safety-copy", &DataInterchange::restoreFromBackup);
+    return run(s, a, &DataInterchange::restoreFromBackup);
 }
 
-std::optional<Failure> safetyCopyCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> safetyCopyCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out)
 {
-    const bool atStart = args == QStringList{u"--at-start"_qs};
-    if (!args.isEmpty() && !atStart) {
-        return Failure{QStringLiteral("usage: tamo safety-copy [--at-start]"), kUsageError};
+    const bool atStart = args.has(u"--at-start"_qs);
+    if (args.operandCount() > 0) {
+        return args.usage();
     }
     DataInterchange operations(session);
     const ActionResult result = atStart ? operations.createBackup() : operations.doTheNewBackup();
@@ -160,33 +165,33 @@ std::optional<Failure> safetyCopyCommand(AppSession& session, const QStringList&
     return outcome(result, u"safety-copy"_qs);
 }
 
-std::optional<Failure> recoverCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> recoverCommand(AppSession& session, const CommandArgs& args,
                                       QTextStream& out)
 {
-    if (args.size() > 1) {
-        return Failure{QStringLiteral("usage: tamo recover [SNAPSHOT]"), kUsageError};
+    if (args.operandCount() > 1) {
+        return args.usage();
     }
     const QStringList snapshots = DataInterchange(session).recoverySnapshots();
-    if (args.isEmpty()) {
+    if (args.operandCount() == 0) {
         for (const QString& snapshot : snapshots) {
             out << QFileInfo(snapshot).fileName() << '\n';
         }
         return std::nullopt;
     }
     // A snapshot is named by its path or by its file name in the recovery folder.
-    QString path = args[0];
+    QString path = args.operand(0);
     if (!QFileInfo::exists(path)) {
-        path = QDir(session.profile().recoveryFolder).filePath(args[0]);
+        path = QDir(session.profile().recoveryFolder).filePath(path);
     }
-    return run(session, {path}, u"recover FILE", &DataInterchange::recoverPreviousDatabase);
+    return runWithFile(session, path, u"recover"_qs, &DataInterchange::recoverPreviousDatabase);
 }
 
-std::optional<Failure> openFileCommand(AppSession& session, const QStringList& args, QTextStream&)
+std::optional<Failure> openFileCommand(AppSession& session, const CommandArgs& args, QTextStream&)
 {
-    if (args.size() != 1) {
-        return Failure{QStringLiteral("usage: tamo open FILE"), kUsageError};
+    if (args.operandCount() != 1) {
+        return args.usage();
     }
-    DataInterchange(session).openFile(args[0]);
+    DataInterchange(session).openFile(args.operand(0));
     return std::nullopt;
 }
 

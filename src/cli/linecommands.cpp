@@ -1,6 +1,4 @@
-#include <QHash>
 #include <QLocale>
-#include <QSet>
 
 #include "cli/commands.h"
 #include "documents/clients.h"
@@ -11,35 +9,6 @@ namespace tamo {
 
 namespace {
 
-// The options of one command: flags, and options that take the next word as their value.
-struct Options {
-    QString document;
-    QHash<QString, QString> values;
-    QSet<QString> flags;
-};
-
-std::expected<Options, Failure> parseOptions(const QStringList& args, const QStringList& valued,
-                                             const QStringList& flags, const QString& usage)
-{
-    Options o;
-    for (int i = 0; i < args.size(); ++i) {
-        const QString& a = args[i];
-        if (valued.contains(a) && i + 1 < args.size()) {
-            o.values.insert(a, args[++i]);
-        } else if (flags.contains(a)) {
-            o.flags.insert(a);
-        } else if (o.document.isEmpty() && !a.startsWith(u"--")) {
-            o.document = a;
-        } else {
-            return std::unexpected(Failure{usage, kUsageError});
-        }
-    }
-    if (o.document.isEmpty()) {
-        return std::unexpected(Failure{usage, kUsageError});
-    }
-    return o;
-}
-
 QString documentName(const Record& document)
 {
     const QString number = document.string("number");
@@ -48,45 +17,39 @@ QString documentName(const Record& document)
 
 }  // namespace
 
-std::optional<Failure> addItemCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> addItemCommand(AppSession& session, const CommandArgs& args,
                                       QTextStream& out)
 {
-    const QString usage = QStringLiteral(
-        "usage: tamo add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT] "
-        "[--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]");
-    const auto o = parseOptions(args,
-                                {u"--title"_qs, u"--price"_qs, u"--quantity"_qs, u"--unit"_qs,
-                                 u"--sku"_qs, u"--subtitle"_qs, u"--note"_qs},
-                                {u"--tax1"_qs, u"--tax2"_qs, u"--tax3"_qs}, usage);
-    if (!o) {
-        return o.error();
+    if (args.operandCount() != 1 || !args.has(u"--title"_qs)) {
+        return args.usage();
     }
     const QLocale c = QLocale::c();
     bool priceOk = false, quantityOk = false;
-    const double price = c.toDouble(o->values.value(u"--price"_qs), &priceOk);
-    const double quantity = c.toDouble(o->values.value(u"--quantity"_qs), &quantityOk);
-    if (!o->values.contains(u"--title"_qs) || !priceOk || !quantityOk) {
-        return Failure{usage, kUsageError};
+    const double price = c.toDouble(args.value(u"--price"_qs), &priceOk);
+    const double quantity = c.toDouble(args.value(u"--quantity"_qs), &quantityOk);
+    if (!priceOk || !quantityOk) {
+        return args.usage(u"--price and --quantity need numbers such as 12.50"_qs);
     }
-    const auto document = selectDocument(session, o->document);
+    const QString name = args.operand(0);
+    const auto document = selectDocument(session, name);
     if (!document) {
         return document.error();
     }
     LineItems items(session);
     std::optional<LineFields> fields = items.showItemPopover();
     if (!fields) {
-        return Failure{QStringLiteral("add-item: %1 was left as it is").arg(o->document)};
+        return Failure{QStringLiteral("add-item: %1 was left as it is").arg(name)};
     }
-    fields->title = o->values.value(u"--title"_qs);
-    fields->subtitle = o->values.value(u"--subtitle"_qs);
-    fields->unit = o->values.value(u"--unit"_qs);
-    fields->sku = o->values.value(u"--sku"_qs);
-    fields->note = o->values.value(u"--note"_qs);
+    fields->title = args.value(u"--title"_qs);
+    fields->subtitle = args.value(u"--subtitle"_qs);
+    fields->unit = args.value(u"--unit"_qs);
+    fields->sku = args.value(u"--sku"_qs);
+    fields->note = args.value(u"--note"_qs);
     fields->price = price;
     fields->quantity = quantity;
-    fields->tax1 = o->flags.contains(u"--tax1"_qs);
-    fields->tax2 = o->flags.contains(u"--tax2"_qs);
-    fields->tax3 = o->flags.contains(u"--tax3"_qs);
+    fields->tax1 = args.has(u"--tax1"_qs);
+    fields->tax2 = args.has(u"--tax2"_qs);
+    fields->tax3 = args.has(u"--tax3"_qs);
     const Record* line = items.addItem(*fields);
     out << QStringLiteral("Added \"%1\" (%2 x %3) to %4; its total is now %5\n")
                .arg(line->string("title"), c.toString(quantity), c.toString(price),
@@ -94,24 +57,21 @@ std::optional<Failure> addItemCommand(AppSession& session, const QStringList& ar
     return std::nullopt;
 }
 
-std::optional<Failure> setClientCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> setClientCommand(AppSession& session, const CommandArgs& args,
                                         QTextStream& out)
 {
-    const QString usage =
-        QStringLiteral("usage: tamo set-client N (--vcard FILE [--index I] | --remembered ID)");
-    const auto o =
-        parseOptions(args, {u"--vcard"_qs, u"--index"_qs, u"--remembered"_qs}, {}, usage);
-    if (!o || o->values.contains(u"--vcard"_qs) == o->values.contains(u"--remembered"_qs)) {
-        return Failure{usage, kUsageError};
+    if (args.operandCount() != 1 || args.has(u"--vcard"_qs) == args.has(u"--remembered"_qs)) {
+        return args.usage();
     }
-    const auto document = selectDocument(session, o->document);
+    const QString name = args.operand(0);
+    const auto document = selectDocument(session, name);
     if (!document) {
         return document.error();
     }
     Clients clients(session);
-    const QString left = QStringLiteral("set-client: %1 was left as it is").arg(o->document);
-    if (o->values.contains(u"--remembered"_qs)) {
-        const QString id = o->values.value(u"--remembered"_qs);
+    const QString left = QStringLiteral("set-client: %1 was left as it is").arg(name);
+    if (args.has(u"--remembered"_qs)) {
+        const QString id = args.value(u"--remembered"_qs);
         const Record* client = session.context()->findByUniqueID("Address", id);
         if (!client) {
             return Failure{QStringLiteral("there is no remembered client %1").arg(id)};
@@ -122,14 +82,13 @@ std::optional<Failure> setClientCommand(AppSession& session, const QStringList& 
         }
         clients.selectRecentAdress(*client);
     } else {
-        const QString file = o->values.value(u"--vcard"_qs);
+        const QString file = args.value(u"--vcard"_qs);
         const ContactBook book = ContactBook::load(file);
         if (!book.unreadableFiles.isEmpty()) {
             return Failure{QStringLiteral("cannot read %1").arg(book.unreadableFiles.join(u", "))};
         }
         bool ok = true;
-        const int index =
-            o->values.contains(u"--index"_qs) ? o->values.value(u"--index"_qs).toInt(&ok) : 0;
+        const int index = args.has(u"--index"_qs) ? args.value(u"--index"_qs).toInt(&ok) : 0;
         if (!ok || index < 0 || index >= book.contacts.size()) {
             return Failure{QStringLiteral("%1 has %2 contacts; --index counts them from 0")
                                .arg(file)

@@ -41,35 +41,20 @@ bool commandRendersPages(const QString& command)
     return command == u"render" || command == u"export-pdfs";
 }
 
-std::optional<Failure> renderCommand(AppSession& session, const QStringList& args, QTextStream& out)
+std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
-    const Failure usage{QStringLiteral("usage: tamo render N --html FILE|- | --pdf FILE "
-                                       "[--reminder | --slip] [--design INDEX|TITLE]"),
-                        kUsageError};
-    QString html, pdf, design, number;
-    RenderMode mode = RenderMode::Document;
-    for (int i = 0; i < args.size(); ++i) {
-        const QString& a = args[i];
-        const bool hasValue = i + 1 < args.size();
-        if (a == u"--html" && hasValue) {
-            html = args[++i];
-        } else if (a == u"--pdf" && hasValue) {
-            pdf = args[++i];
-        } else if (a == u"--design" && hasValue) {
-            design = args[++i];
-        } else if (a == u"--reminder" && mode == RenderMode::Document) {
-            mode = RenderMode::Reminder;
-        } else if (a == u"--slip" && mode == RenderMode::Document) {
-            mode = RenderMode::Slip;
-        } else if (number.isEmpty() && !a.startsWith(u'-')) {
-            number = a;
-        } else {
-            return usage;
-        }
+    const QString html = args.value(u"--html"_qs);
+    const QString pdf = args.value(u"--pdf"_qs);
+    const QString design = args.value(u"--design"_qs);
+    const QString number = args.operand(0);
+    const bool reminder = args.has(u"--reminder"_qs);
+    const bool slip = args.has(u"--slip"_qs);
+    if (args.operandCount() != 1 || html.isEmpty() == pdf.isEmpty() || (reminder && slip)) {
+        return args.usage();
     }
-    if (number.isEmpty() || html.isEmpty() == pdf.isEmpty()) {
-        return usage;
-    }
+    const RenderMode mode = reminder ? RenderMode::Reminder
+                            : slip   ? RenderMode::Slip
+                                     : RenderMode::Document;
     auto document = selectDocument(session, number);
     if (!document) {
         return document.error();
@@ -108,16 +93,19 @@ std::optional<Failure> renderCommand(AppSession& session, const QStringList& arg
     return std::nullopt;
 }
 
-std::optional<Failure> exportPdfsCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out)
 {
-    const bool filtered = args.size() == 3 && args[1] == u"--filter";
+    const bool filtered = args.has(u"--filter"_qs);
     bool tagOk = true;
-    const int tag = filtered ? args[2].toInt(&tagOk) : 0;
-    if (!(args.size() == 1 || filtered) || !tagOk) {
-        return Failure{QStringLiteral("usage: tamo export-pdfs DIR [--filter TAG]"), kUsageError};
+    const int tag = filtered ? args.value(u"--filter"_qs).toInt(&tagOk) : 0;
+    if (args.operandCount() != 1) {
+        return args.usage();
     }
-    const QString folder = QFileInfo(args[0]).absoluteFilePath();
+    if (!tagOk || tag < 0 || tag > 8) {
+        return args.usage(u"TAG is a number from 0 to 8"_qs);
+    }
+    const QString folder = QFileInfo(args.operand(0)).absoluteFilePath();
     if (!QDir().mkpath(folder)) {
         return Failure{QStringLiteral("cannot create the folder %1").arg(folder)};
     }
@@ -151,16 +139,14 @@ std::optional<Failure> exportPdfsCommand(AppSession& session, const QStringList&
     return std::nullopt;
 }
 
-std::optional<Failure> designsCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> designsCommand(AppSession& session, const CommandArgs& args,
                                       QTextStream& out)
 {
-    const Failure usage{QStringLiteral("usage: tamo designs list | add | import FILE | "
-                                       "export INDEX FILE | default INDEX | select INDEX | "
-                                       "delete INDEX"),
-                        kUsageError};
-    const QString verb = args.value(0);
+    const Failure usage = args.usage();
+    const QString verb = args.operand(0);
+    const qsizetype count = args.operandCount();
     DesignLibrary designs(session);
-    if (verb == u"list" && args.size() == 1) {
+    if (verb == u"list" && count == 1) {
         const auto list = designs.designs();
         const int selected = designs.selectedIndex();
         for (size_t i = 0; i < list.size(); ++i) {
@@ -173,34 +159,35 @@ std::optional<Failure> designsCommand(AppSession& session, const QStringList& ar
         }
         return std::nullopt;
     }
-    if (verb == u"add" && args.size() == 1) {
+    if (verb == u"add" && count == 1) {
         designs.addDesign();
         out << designs.selectedIndex() << '\n';
         return std::nullopt;
     }
-    if (verb == u"import" && args.size() == 2) {
-        auto imported = designs.importDesignFile(args[1]);
+    if (verb == u"import" && count == 2) {
+        auto imported = designs.importDesignFile(args.operand(1));
         if (!imported) {
             return Failure{imported.error().text()};
         }
         out << designs.selectedIndex() << ' ' << (*imported)->string("title") << '\n';
         return std::nullopt;
     }
-    const bool withFile = verb == u"export" && args.size() == 3;
+    const bool withFile = verb == u"export" && count == 3;
     if (!(withFile ||
-          (args.size() == 2 && (verb == u"default" || verb == u"select" || verb == u"delete")))) {
+          (count == 2 && (verb == u"default" || verb == u"select" || verb == u"delete")))) {
         return usage;
     }
-    auto index = designIndex(designs, args[1]);
+    auto index = designIndex(designs, args.operand(1));
     if (!index) {
         return index.error();
     }
     if (withFile) {
         const Record& design = *designs.designs()[size_t(*index)];
-        if (auto written = designs.exportDesignFile(design, args[2]); !written) {
+        const QString file = args.operand(2);
+        if (auto written = designs.exportDesignFile(design, file); !written) {
             return Failure{written.error().text()};
         }
-        out << "Wrote " << QFileInfo(args[2]).absoluteFilePath() << '\n';
+        out << "Wrote " << QFileInfo(file).absoluteFilePath() << '\n';
         return std::nullopt;
     }
     designs.selectDesign(*index);
@@ -216,16 +203,15 @@ std::optional<Failure> designsCommand(AppSession& session, const QStringList& ar
 
 namespace tamo {
 
-std::optional<Failure> templatesCommand(AppSession& session, const QStringList& args,
+std::optional<Failure> templatesCommand(AppSession& session, const CommandArgs& args,
                                         QTextStream& out)
 {
-    const Failure usage{QStringLiteral("usage: tamo templates list | create N [NOTES] | "
-                                       "apply INDEX N | delete INDEX"),
-                        kUsageError};
-    const QString verb = args.value(0);
+    const Failure usage = args.usage();
+    const QString verb = args.operand(0);
+    const qsizetype count = args.operandCount();
     DocumentTemplates templates(session);
     const auto list = templates.templates();
-    if (verb == u"list" && args.size() == 1) {
+    if (verb == u"list" && count == 1) {
         for (size_t i = 0; i < list.size(); ++i) {
             const QString title =
                 QStringList{list[i]->string("customerName"), list[i]->string("title")}
@@ -239,36 +225,36 @@ std::optional<Failure> templatesCommand(AppSession& session, const QStringList& 
         }
         return std::nullopt;
     }
-    if (verb == u"create" && (args.size() == 2 || args.size() == 3)) {
-        auto document = selectDocument(session, args[1]);
+    if (verb == u"create" && (count == 2 || count == 3)) {
+        auto document = selectDocument(session, args.operand(1));
         if (!document) {
             return document.error();
         }
-        templates.createNewTemplate(args.value(2, (*document)->string("number")));
+        templates.createNewTemplate(count == 3 ? args.operand(2) : (*document)->string("number"));
         out << templates.templates().size() - 1 << '\n';
         return std::nullopt;
     }
     bool number = false;
-    const int index = args.value(1).toInt(&number);
+    const int index = args.operand(1).toInt(&number);
     if (!number || index < 0 || index >= int(list.size())) {
-        return args.size() >= 2 && (verb == u"apply" || verb == u"delete")
+        return count >= 2 && (verb == u"apply" || verb == u"delete")
                    ? Failure{QStringLiteral("there is no template %1 (see templates list)")
-                                 .arg(args.value(1))}
+                                 .arg(args.operand(1))}
                    : usage;
     }
-    if (verb == u"apply" && args.size() == 3) {
-        auto document = selectDocument(session, args[2]);
+    if (verb == u"apply" && count == 3) {
+        auto document = selectDocument(session, args.operand(2));
         if (!document) {
             return document.error();
         }
         if (!templates.selectTemplate(*list[size_t(index)])) {
             return Failure{QStringLiteral("%1 is marked as already sent; the template was not "
                                           "applied")
-                               .arg(args[2])};
+                               .arg(args.operand(2))};
         }
         return std::nullopt;
     }
-    if (verb == u"delete" && args.size() == 2) {
+    if (verb == u"delete" && count == 2) {
         templates.deleteTemplate(list[size_t(index)]);
         return std::nullopt;
     }

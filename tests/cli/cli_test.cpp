@@ -1,6 +1,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTextStream>
 
 #include "cli/commandline.h"
 #include "support/commandrunner.h"
@@ -74,6 +75,12 @@ TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
          2,
          u"tamo: generate-sample: --documents needs a whole number"},
         {{u"list"_qs, u"--xml"_qs}, 2, u"tamo: list: unknown option --xml"},
+        {{u"list"_qs, u"--json=yes"_qs}, 2, u"tamo: list: --json takes no value"},
+        {{u"render"_qs, u"1"_qs, u"--pdf"_qs}, 2, u"tamo: render: --pdf needs a value"},
+        {{u"set-status"_qs, u"1"_qs, u"7"_qs},
+         2,
+         u"tamo: set-status: the status is a number from 0 to 4, not 7"},
+        {{u"new-invoice"_qs, u"extra"_qs}, 2, u"tamo: usage: tamo new-invoice"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.words.join(u' ').toStdString());
@@ -81,6 +88,44 @@ TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
         EXPECT_EQ(run.code, c.code);
         EXPECT_EQ(run.err.section(u'\n', 0, 0), QString::fromUtf16(c.message));
     }
+}
+
+TEST_F(CommandLineTest, OptionsStandAnywhereAndEveryCommandExplainsItself)
+{
+    // The global options after the command, a command's options before its operand, "=" values
+    // and "--" before an operand that begins with a dash.
+    const auto run = [&](const QStringList& words) {
+        QString out, err;
+        QTextStream o(&out), e(&err);
+        const int code = runCommand(parseInvocation(QStringList{u"tamo"_qs} + words), o, e);
+        o.flush();
+        e.flush();
+        return Outcome{code, out, err};
+    };
+    const QString store = dir.path(u"store"_qs);
+    ASSERT_EQ(run({u"new-invoice"_qs, u"--store"_qs, store}).code, 0);
+    const QString id = QJsonDocument::fromJson(tamo({u"list"_qs, u"--json"_qs}).out.toUtf8())
+                           .array()[0][u"uniqueID"]
+                           .toString();
+    const Outcome added = run({u"add-item"_qs, u"--tax1"_qs, u"--title=Design"_qs, u"--price"_qs,
+                               u"-20"_qs, u"--quantity"_qs, u"3"_qs, id, u"--store"_qs, store});
+    EXPECT_EQ(added.code, 0) << added.err.toStdString();
+    EXPECT_TRUE(added.out.contains(u"its total is now -60.00")) << added.out.toStdString();
+    EXPECT_EQ(run({u"--store="_qs + store, u"settings"_qs, u"set"_qs, u"locSlip"_qs, u"--"_qs,
+                   u"--draft--"_qs})
+                  .code,
+              0);
+    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"locSlip"_qs}).out, u"--draft--\n");
+
+    for (const QStringList& words :
+         {QStringList{u"render"_qs, u"--help"_qs}, QStringList{u"help"_qs, u"render"_qs}}) {
+        const Outcome help = tamo(words);
+        EXPECT_EQ(help.code, 0);
+        EXPECT_TRUE(help.out.startsWith(u"usage: tamo render N (--html FILE|- | --pdf FILE)"))
+            << help.out.toStdString();
+    }
+    const Outcome unknown = tamo({u"list"_qs, u"--xml"_qs});
+    EXPECT_EQ(unknown.err.section(u'\n', 1, 1), u"usage: tamo list [--json]");
 }
 
 TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsReportedNotReplaced)
