@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/appdelegate.h"
+#include "app/appicon.h"
 #include "app/mainwindow.h"
 #include "cli/commandline.h"
 #include "cli/commands.h"
@@ -52,7 +53,7 @@ int main(int argc, char** argv)
                                       ? tamo::Profile::standard()
                                       : tamo::Profile::inDirectory(invocation.storeDirectory);
     tamo::AppDelegate delegate(profile);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/stamps/Stamp3.svg")));
+    QApplication::setWindowIcon(tamo::applicationIcon());
     delegate.start();
     return QApplication::exec();
 }
