@@ -9,6 +9,7 @@
 #include "app/editor/documenteditor.h"
 #include "app/einvoicesheets.h"
 #include "app/filemenu.h"
+#include "app/helpmenu.h"
 #include "app/mainwindow.h"
 #include "app/renderactions.h"
 
@@ -50,6 +51,7 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::start()
 {
+    installHelpMenu(*window_);
     window_->restoreLayout();
     window_->show();
     session_.managedObjectContext();

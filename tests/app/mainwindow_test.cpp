@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTableView>
@@ -9,6 +10,7 @@
 #include "app/editor/documenteditor.h"
 #include "app/mainwindow.h"
 #include "cli/samplegenerator.h"
+#include "platform/manual.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -68,3 +70,20 @@ TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
 }
 
 }  // namespace
+
+TEST(MainWindowTest, TheHelpMenuComesLastAndOpensTheManualBesideTheProgram)
+{
+    TempProfile dir;
+    AppDelegate delegate(dir.profile());
+    delegate.start();
+    const QList<QAction*> menus = delegate.window().menuBar()->actions();
+    ASSERT_FALSE(menus.isEmpty());
+    EXPECT_EQ(menus.last()->menu()->objectName(), u"helpMenu");
+    ASSERT_NE(delegate.window().findChild<QAction*>(u"showManual"_qs), nullptr);
+    // The build folder is laid out like an installation, so the manual is found from here too.
+    const QUrl manual = manualUrl();
+    ASSERT_TRUE(manual.isLocalFile()) << manual.toString().toStdString();
+    QFile page(manual.toLocalFile());
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(page.readAll().contains("<title>Tamo Manual</title>"));
+}
