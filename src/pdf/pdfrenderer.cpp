@@ -153,9 +153,10 @@ void PdfRenderer::dropEngine()
     interceptor_.reset();
 }
 
-void PdfRenderer::render(const QString& html, const QPageLayout& layout, Done done)
+void PdfRenderer::render(const QString& html, const QPageLayout& layout, Done done,
+                         PageOptions options)
 {
-    queue_.push_back({html, layout, std::move(done)});
+    queue_.push_back({html, layout, std::move(done), options});
     if (!running_) {
         startNext();
     }
@@ -183,6 +184,9 @@ void PdfRenderer::startNext()
     if (!page_) {
         resetPage();
     }
+    // Takes effect with the load below.
+    page_->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled,
+                                    running_->options.scripts);
     watchdog_.start(limits_.maxMilliseconds);
     started_.start();
     const QUrl base = QUrl::fromLocalFile(QDir(localFolder_).absolutePath() + u'/');
@@ -275,14 +279,18 @@ void PdfRenderer::finish(const Result<QByteArray>& result)
     }
 }
 
-Result<QByteArray> PdfRenderer::renderAndWait(const QString& html, const QPageLayout& layout)
+Result<QByteArray> PdfRenderer::renderAndWait(const QString& html, const QPageLayout& layout,
+                                              PageOptions options)
 {
     std::optional<Result<QByteArray>> result;
     QEventLoop loop;
-    render(html, layout, [&](const Result<QByteArray>& pdf) {
-        result = pdf;
-        loop.quit();
-    });
+    render(
+        html, layout,
+        [&](const Result<QByteArray>& pdf) {
+            result = pdf;
+            loop.quit();
+        },
+        options);
     if (!result) {
         loop.exec();
     }

@@ -31,13 +31,20 @@ enum RenderError {
 // the page may not open network connections of its own (WebRTC).
 void prepareRendering();
 
+// What one page given to the PdfRenderer may do.
+struct PdfPageOptions {
+    bool scripts = false;  // run the page's scripts (the sales report draws its charts)
+};
+
 // Turns HTML pages into PDF through one off-screen web page that is reused for every job; jobs
 // run one after the other, each printed only once its page has finished loading.
 //
-// The page is closed to the outside: scripts may run, but no request leaves for the network and
-// no file outside `localFolder` is read (the logo lives there). A design whose layout runs away
-// (some flex layouts make the engine print tens of thousands of blank pages) is stopped by the
-// limits and reported as an error; nothing is written then.
+// The page is closed to the outside: no request leaves for the network and no file outside
+// `localFolder` is read (the logo lives there). Scripts run only on pages that ask for them
+// (`PageOptions::scripts`): documents are HTML and CSS, and a value in a document may carry
+// markup that must not script the page. A design whose layout runs away (some flex layouts make
+// the engine print tens of thousands of blank pages) is stopped by the limits and reported as an
+// error; nothing is written then.
 class PdfRenderer : public QObject {
     Q_OBJECT
 
@@ -47,6 +54,7 @@ public:
         int maxMilliseconds = 30000;  // loading and printing one page
     };
     using Done = std::function<void(const Result<QByteArray>& pdf)>;
+    using PageOptions = PdfPageOptions;
 
     explicit PdfRenderer(const QString& localFolder, QObject* parent = nullptr);
     ~PdfRenderer() override;
@@ -55,7 +63,8 @@ public:
     Limits limits() const { return limits_; }
 
     // Queues a page; `done` runs on this thread with the PDF or the reason there is none.
-    void render(const QString& html, const QPageLayout& layout, Done done);
+    void render(const QString& html, const QPageLayout& layout, Done done,
+                PageOptions options = {});
     // Drops the waiting jobs; their callbacks are not called. The running one goes on.
     void cancelWaiting() { queue_.clear(); }
     // Drops the waiting jobs and stops the one running (on a fresh engine process, so that the
@@ -66,13 +75,15 @@ public:
     qint64 busyMilliseconds() const { return running_ ? started_.elapsed() : 0; }
 
     // Renders one page and waits for it (the command line has no other work meanwhile).
-    Result<QByteArray> renderAndWait(const QString& html, const QPageLayout& layout);
+    Result<QByteArray> renderAndWait(const QString& html, const QPageLayout& layout,
+                                     PageOptions options = {});
 
 private:
     struct Job {
         QString html;
         QPageLayout layout;
         Done done;
+        PageOptions options;
     };
     void startNext();
     void loaded(bool ok);

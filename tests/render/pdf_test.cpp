@@ -216,15 +216,57 @@ TEST_F(PdfTest, AHostileDesignReachesNeitherTheNetworkNorFilesOutsideTheDataFold
     design(page, u"body { font-size: 10pt; }"_qs);
     sample->setValue("title", u"<script>document.write('VALUE-SCRIPT-RAN')</script>"_qs);
 
+    // Documents print with scripts off; a page allowed its scripts (the sales report) stays
+    // inside the data folder all the same.
     auto pdf = renderer.renderAndWait(html.invoiceHTMLString(), pageLayoutFor(2, false));
     ASSERT_TRUE(pdf.has_value()) << pdf.error().text().toStdString();
+    QString words = text(*load(*pdf));
+    EXPECT_FALSE(words.contains(u"SCRIPT-RAN"));
+    pdf = renderer.renderAndWait(html.invoiceHTMLString(), pageLayoutFor(2, false),
+                                 PdfPageOptions{.scripts = true});
+    ASSERT_TRUE(pdf.has_value()) << pdf.error().text().toStdString();
     QTest::qWait(500);  // anything sent late would have arrived by now
-    const QString words = text(*load(*pdf));
+    words = text(*load(*pdf));
     EXPECT_TRUE(words.contains(u"DESIGN-SCRIPT-RAN"));
     EXPECT_TRUE(words.contains(u"VALUE-SCRIPT-RAN"));
     EXPECT_TRUE(words.contains(u"ALLOWED-INSIDE"));
     EXPECT_FALSE(words.contains(u"SECRET-OUTSIDE"));
     EXPECT_EQ(connections, 0);
+}
+
+TEST_F(PdfTest, RecordsAndDesignsCannotScriptThePrintedPage)
+{
+    // A line whose title replaces the page, HTML that still counts as such, and a design whose
+    // script would never end.
+    Record* line = sample->toMany("items").front();
+    line->setValue("title", u"<script>document.body.innerHTML = 'REPLACED'</script>Logo"_qs);
+    sample->setValue("subject", u"<b>Bold</b> subject"_qs);
+    ASSERT_TRUE(output.writePdf(*sample, dir.path(u"values.pdf"_qs)).has_value());
+    const QString words = text(*load(readWholeFile(dir.path(u"values.pdf"_qs)).value()));
+    EXPECT_FALSE(words.contains(u"REPLACED"));
+    EXPECT_TRUE(words.contains(u"RE-2026-0042"));
+    EXPECT_TRUE(words.contains(u"Bold subject"));
+    EXPECT_FALSE(words.contains(u"<b>"));
+
+    design(u"<html><body><p>%NUMBER%</p><script>for (;;) {}</script></body></html>"_qs);
+    renderer.setLimits({1000, 20000});
+    QElapsedTimer clock;
+    clock.start();
+    const auto pdf = renderer.renderAndWait(html.invoiceHTMLString(), pageLayoutFor(2, false));
+    ASSERT_TRUE(pdf.has_value()) << pdf.error().text().toStdString();
+    EXPECT_LT(clock.elapsed(), 10000);
+    EXPECT_TRUE(text(*load(*pdf)).contains(u"RE-2026-0042"));
+
+    // The preview too: a design's script writes nothing there.
+    design(
+        u"<html><body><p>%NUMBER%</p><script>document.write('PREVIEW-SCRIPT-RAN')</script>"
+        u"</body></html>"_qs);
+    QSignalSpy ready(&output, &PdfOutput::previewReady);
+    output.generatePreview();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ready.count() == 1; }, 20000));
+    const QString preview = text(*load(readWholeFile(output.previewPath()).value()));
+    EXPECT_TRUE(preview.contains(u"RE-2026-0042"));
+    EXPECT_FALSE(preview.contains(u"PREVIEW-SCRIPT-RAN"));
 }
 
 TEST_F(PdfTest, ThePreviewFollowsTheModesAndTheChooser)

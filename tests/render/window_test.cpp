@@ -110,6 +110,16 @@ TEST_F(RenderWindowTest, TheChooserAndThePreferencesWorkOnTheDesigns)
     Record* minimal = actions().designs().designs()[2];
     EXPECT_EQ(pane->editor(2)->toPlainText(), minimal->string("css"));
     pane->editor(2)->appendPlainText(u"/* edited */"_qs);
+    // The preview with sample data runs no script of the design.
+    pane->editor(0)->setPlainText(
+        u"<p>%NUMBER%</p><script>document.write('PANE-SCRIPT-RAN')</script>"_qs);
+    pane->previewDesign();
+    const auto paneText = [&] {
+        QPdfDocument* pdf = pane->preview()->document();
+        return pdf->pageCount() > 0 ? pdf->getAllText(0).text() : QString();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return paneText().contains(u"RE-2026"); }, 30000));
+    EXPECT_FALSE(paneText().contains(u"PANE-SCRIPT-RAN"));
     preferences.reject();  // closing writes what was typed
     EXPECT_TRUE(minimal->string("css").endsWith(u"/* edited */"));
     EXPECT_FALSE(delegate.session().context()->hasChanges());
