@@ -64,6 +64,8 @@ public:
     void filterForInvoice(const QString& uniqueID);
     QString filterImageName() const;
     static Predicate filterPredicate(int tag, const QDateTime& now);
+    // The statistics pass over the list as it is arranged now; no step to undo.
+    void refreshStatistics();
 
     SheetTexts reminderSheetTexts() const;
     SheetTexts slipSheetTexts() const;
@@ -82,7 +84,6 @@ signals:
 private:
     Record* newDocument(bool invoice);
     void setFilterTag(int tag);
-    void refreshStatistics();
 
     AppSession& session_;
     NotificationScheduler* scheduler_;

@@ -157,9 +157,11 @@ struct SettingKey {
     X(alwaysShowRecentItems, Integer)                 \
     X(alwaysShowRecentShipping, Integer)              \
     X(alwaysShowRecentTemplates, Boolean)             \
+    X(useReportDateRange, Boolean)                    \
     X(reportDateL, Date)                              \
     X(reportDateR, Date)                              \
     X(isReportHintShown, Boolean)                     \
+    X(isAccountBookPrintHintShown, Boolean)           \
     X(firstCenter, Boolean)                           \
     X(moveToApplicationsFolderAlertSuppress, Boolean) \
     X(prefsDeliverNotificationsWithSound, Boolean)    \

@@ -19,21 +19,7 @@ inline QString renderData(const QString& name)
 // is written instead (then read it through before committing it).
 inline void expectGolden(const QString& name, const QString& actual)
 {
-    const QString path = renderData(name);
-    if (qEnvironmentVariableIsSet("TAMO_UPDATE_GOLDEN")) {
-        QFile out(path);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        out.write(actual.toUtf8());
-        return;
-    }
-    const QString expected = readFile(path);
-    ASSERT_FALSE(expected.isEmpty()) << "no golden file " << path.toStdString();
-    const QStringList want = expected.split(u'\n');
-    const QStringList got = actual.split(u'\n');
-    for (qsizetype i = 0; i < std::min(want.size(), got.size()); ++i) {
-        ASSERT_EQ(got[i], want[i]) << name.toStdString() << " line " << i + 1;
-    }
-    EXPECT_EQ(got.size(), want.size()) << name.toStdString();
+    expectGoldenFile(renderData(name), actual);
 }
 
 // A session with English labels that name themselves, so that a golden file shows which

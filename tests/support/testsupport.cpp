@@ -1,6 +1,7 @@
 #include "support/testsupport.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <limits>
 
 #include "model/sqlite.h"
@@ -44,6 +45,25 @@ QString readFile(const QString& path)
 {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+void expectGoldenFile(const QString& path, const QString& actual)
+{
+    const std::string name = QFileInfo(path).fileName().toStdString();
+    if (qEnvironmentVariableIsSet("TAMO_UPDATE_GOLDEN")) {
+        QFile out(path);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        out.write(actual.toUtf8());
+        return;
+    }
+    const QString expected = readFile(path);
+    ASSERT_FALSE(expected.isEmpty()) << "no golden file " << path.toStdString();
+    const QStringList want = expected.split(u'\n');
+    const QStringList got = actual.split(u'\n');
+    for (qsizetype i = 0; i < std::min(want.size(), got.size()); ++i) {
+        ASSERT_EQ(got[i], want[i]) << name << " line " << i + 1;
+    }
+    EXPECT_EQ(got.size(), want.size()) << name;
 }
 
 Value sampleValue(AttributeType type, size_t salt)

@@ -43,6 +43,10 @@ QString queryText(const QString& path, const QString& sql);
 
 QString readFile(const QString& path);
 
+// Compares `actual` with the golden file at `path`, line by line; with TAMO_UPDATE_GOLDEN=1 in
+// the environment the file is written instead (then read it through before committing it).
+void expectGoldenFile(const QString& path, const QString& actual);
+
 // A value per attribute type that a faulty column mapping or file format would not reproduce
 // exactly.
 Value sampleValue(AttributeType type, size_t salt);
