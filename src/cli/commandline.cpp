@@ -211,6 +211,12 @@ const CommandEntry kCommands[] = {
      nullptr, true, designsCommand},
     {u"templates list | create N [NOTES] | apply INDEX N | delete INDEX", nullptr, true,
      templatesCommand},
+    {u"report [--from DATE --to DATE] [--filter TAG] [--search TEXT] (--html FILE|- | --pdf FILE "
+     u"| --json)",
+     u"the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00", true,
+     reportCommand},
+    {u"account-book [--filter TAG] [--search TEXT] --pdf FILE",
+     u"every listed document, oldest first, as PDF", true, accountBookCommand},
 };
 
 const CommandEntry* findCommand(const QString& name)

@@ -74,6 +74,10 @@ std::optional<Failure> exportPdfsCommand(AppSession&, const CommandArgs&, QTextS
 std::optional<Failure> designsCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> templatesCommand(AppSession&, const CommandArgs&, QTextStream&);
 
+// The sales report and the account book (reportcommands.cpp).
+std::optional<Failure> reportCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> accountBookCommand(AppSession&, const CommandArgs&, QTextStream&);
+
 // Documents: create, duplicate, convert, delete, status, dispatch, filters.
 std::optional<Failure> newInvoiceCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> newQuoteCommand(AppSession&, const CommandArgs&, QTextStream&);

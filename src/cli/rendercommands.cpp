@@ -38,7 +38,8 @@ std::expected<int, Failure> designIndex(DesignLibrary& designs, const QString& n
 
 bool commandRendersPages(const QString& command)
 {
-    return command == u"render" || command == u"export-pdfs";
+    return command == u"render" || command == u"export-pdfs" || command == u"report" ||
+           command == u"account-book";
 }
 
 std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
