@@ -12,6 +12,7 @@
 #include "app/helpmenu.h"
 #include "app/mainwindow.h"
 #include "app/renderactions.h"
+#include "app/reportswindow.h"
 
 namespace tamo {
 
@@ -38,6 +39,7 @@ AppDelegate::AppDelegate(const Profile& profile)
     // Before the store opens: its set-up loads the shipped designs through these.
     installRenderActions(*window_, session_);
     installEinvoiceActions(*window_, session_);
+    installReportActions(*window_, session_);
     // Once the event loop runs, so that the notice appears over the finished window.
     hooks.showEinvoiceNotice = [this] {
         QTimer::singleShot(0, window_.get(), [this] { showEinvoiceNotice(window_.get()); });
