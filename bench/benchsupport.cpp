@@ -1,6 +1,8 @@
 #include "benchsupport.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 
 namespace tamo::bench {
@@ -18,6 +20,19 @@ double statusFieldMiB(const char* field)
     return match.hasMatch() ? match.captured(1).toDouble() / 1024.0 : -1;
 }
 }  // namespace
+
+bool generateSampleProfile(const QString& folder)
+{
+    QProcess p;
+    p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    p.start(QCoreApplication::applicationDirPath() + QStringLiteral("/tamo"),
+            {QStringLiteral("--store"), folder, QStringLiteral("generate-sample"),
+             QStringLiteral("--documents"), QStringLiteral("10000"),
+             QStringLiteral("--items-per-document"), QStringLiteral("8"),
+             QStringLiteral("--clients"), QStringLiteral("300")});
+    return p.waitForFinished(600'000) && p.exitStatus() == QProcess::NormalExit &&
+           p.exitCode() == 0;
+}
 
 double peakResidentMiB()
 {

@@ -31,6 +31,10 @@ inline QString optionValue(const QStringList& args, const QString& option,
     return at >= 0 && at + 1 < args.size() ? args[at + 1] : fallback;
 }
 
+// Makes the sample profile of 10,000 documents with 8 lines each in `folder`, through the tamo
+// program beside this one (a child process, so that generating counts toward no figure here).
+bool generateSampleProfile(const QString& folder);
+
 // Peak resident memory of this process so far, in MiB.
 double peakResidentMiB();
 // Resident memory of this process now, in MiB.
