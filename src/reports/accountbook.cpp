@@ -13,7 +13,8 @@ namespace tamo {
 namespace {
 
 // One document as three rows of eight cells; %1 to %12 are the slots. The light face is given
-// as a weight too, so that it survives the move to the book's font family.
+// as a weight too, so that it survives the move to the book's font family. The text column takes
+// what the others leave of the 500 points, so the amounts stay on the page.
 constexpr auto kRowTemplate =
     u"<table width=\"500\" cellpadding=\"1\" cellspacing=\"0\" border=\"0\" "
     u"style=\"font-size: 7px;\">"
@@ -21,7 +22,7 @@ constexpr auto kRowTemplate =
     u"<td width=\"24\" align=\"right\" style=\"font-weight: bold;\">%1</td>"
     u"<td width=\"%SPACER%\">%SPACERTEXT%</td>"
     u"<td width=\"42\" style=\"font-family: 'HelveticaNeue-Light'; font-weight: 300;\">%2</td>"
-    u"<td width=\"414\"><b>%3</b><br /><span style=\"font-size: 6px;\">%4</span></td>"
+    u"<td width=\"360\"><b>%3</b><br /><span style=\"font-size: 6px;\">%4</span></td>"
     u"<td width=\"54\" align=\"right\"><b>%5</b><br /><span style=\"font-size: "
     u"6px;\">%6</span></td>"
     u"<td></td>"
@@ -31,8 +32,8 @@ constexpr auto kRowTemplate =
     u"<tr>"
     u"<td></td><td></td>"
     u"<td>%9</td>"
-    u"<td width=\"414\">%10</td>"
-    u"<td width=\"94\" align=\"right\">%11</td>"
+    u"<td>%10</td>"
+    u"<td align=\"right\">%11</td>"
     u"<td></td><td></td><td></td>"
     u"</tr>"
     u"<tr>"
