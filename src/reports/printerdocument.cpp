@@ -97,9 +97,16 @@ void PrinterPage::substituteVariables(const PrinterVariables& variables)
     }
 }
 
-PrinterDocument::PrinterDocument(std::vector<PrinterItem> items) : items_(std::move(items)) {}
+PrinterDocument::PrinterDocument(std::vector<PrinterItem> items)
+    : items_(std::move(items)), workers_(std::make_unique<QThreadPool>())
+{
+    workers_->setMaxThreadCount(std::max(0, QThread::idealThreadCount() - 1));
+}
 
-PrinterDocument::~PrinterDocument() = default;
+PrinterDocument::~PrinterDocument()
+{
+    workers_->waitForDone();
+}
 
 void PrinterDocument::layout()
 {
@@ -115,7 +122,8 @@ void PrinterDocument::build()
 {
     prepared_.clear();
     prepared_.resize(items_.size());
-    preparedUpTo_ = 0;
+    readyEnd_ = 0;
+    inFlightEnd_ = 0;
     std::vector<PrinterItem*> remaining;
     remaining.reserve(items_.size());
     for (PrinterItem& item : items_) {
@@ -128,6 +136,7 @@ void PrinterDocument::build()
         remaining = page->fillWithItems(remaining, *this);
         pages_.push_back(std::move(page));
     }
+    workers_->waitForDone();
     prepared_.clear();
 }
 
@@ -148,29 +157,43 @@ void PrinterDocument::substituteVariables(const PrinterVariables& variables)
     }
 }
 
-void PrinterDocument::prepareItemViews(size_t from)
+void PrinterDocument::makeItemViews(size_t from, size_t end, bool here)
 {
-    // Reading the blocks' HTML is half of the work and needs no fonts, so it runs on every core
-    // at once, a batch at a time so that few wait in memory. Laying them out uses the fonts of
-    // the thread that does it, which would end with a worker; that stays on this thread.
-    constexpr size_t kBatch = 256;
-    const size_t end = std::min(items_.size(), from + kBatch);
-    std::atomic<size_t> next{from};
-    const auto work = [this, &next, end] {
-        for (size_t i = next++; i < end; i = next++) {
+    // Reading the blocks' HTML needs no fonts, so it can run on other threads. Laying them out
+    // uses the fonts of the thread that does it, which end with a worker; that stays here.
+    auto next = std::make_shared<std::atomic<size_t>>(from);
+    const auto work = [this, next, end] {
+        for (size_t i = (*next)++; i < end; i = (*next)++) {
             auto view = makeItemView(items_[i], pageSize.width());
             view->moveToMainThread();
             prepared_[i] = std::move(view);
         }
     };
-    QThreadPool pool;
-    const int workers = std::min(QThread::idealThreadCount(), int(end - from)) - 1;
-    for (int i = 0; i < workers; ++i) {
-        pool.start(work);
+    for (int i = 0; i < workers_->maxThreadCount(); ++i) {
+        workers_->start(work);
     }
-    work();  // this thread takes its share too
-    pool.waitForDone();
-    preparedUpTo_ = end;
+    if (here) {
+        work();
+        workers_->waitForDone();
+    }
+}
+
+void PrinterDocument::prepareItemViews(size_t from)
+{
+    // While this thread lays one batch out, the workers read the next.
+    constexpr size_t kBatch = 256;
+    workers_->waitForDone();
+    readyEnd_ = inFlightEnd_;
+    if (from >= readyEnd_) {
+        readyEnd_ = std::min(items_.size(), from + kBatch);
+        makeItemViews(from, readyEnd_, true);
+    }
+    inFlightEnd_ = std::min(items_.size(), readyEnd_ + kBatch);
+    if (inFlightEnd_ > readyEnd_ && workers_->maxThreadCount() > 0) {
+        makeItemViews(readyEnd_, inFlightEnd_, false);
+    } else {
+        inFlightEnd_ = readyEnd_;
+    }
 }
 
 std::unique_ptr<PrinterTextView> PrinterDocument::takeItemView(PrinterItem& item)
@@ -178,7 +201,7 @@ std::unique_ptr<PrinterTextView> PrinterDocument::takeItemView(PrinterItem& item
     const size_t i = indexOf(item);
     std::unique_ptr<PrinterTextView> view;
     if (i < prepared_.size()) {
-        if (!prepared_[i] && i >= preparedUpTo_) {
+        if (i >= readyEnd_) {
             prepareItemViews(i);
         }
         view = std::move(prepared_[i]);

@@ -9,6 +9,7 @@
 
 class QPagedPaintDevice;
 class QPainter;
+class QThreadPool;
 
 namespace tamo {
 
@@ -103,12 +104,15 @@ public:
 
 private:
     void prepareItemViews(size_t from);
+    void makeItemViews(size_t from, size_t end, bool here);
     size_t indexOf(const PrinterItem& item) const { return size_t(&item - items_.data()); }
 
     std::vector<PrinterItem> items_;
     std::vector<std::unique_ptr<PrinterPage>> pages_;
     std::vector<std::unique_ptr<PrinterTextView>> prepared_;
-    size_t preparedUpTo_ = 0;
+    size_t readyEnd_ = 0;     // views before this index are made
+    size_t inFlightEnd_ = 0;  // views up to this index are being made by the workers
+    std::unique_ptr<QThreadPool> workers_;
     bool layouted_ = false;
 };
 
