@@ -71,7 +71,7 @@ ReportsWindow::ReportsWindow(AppSession& session, SalesReport& report, QWidget* 
 {
     setObjectName(QStringLiteral("reportsWindow"));
     setWindowTitle(tr("Sales Report"));
-    resize(780, 860);
+    resize(780, 720);
 
     auto* refresh =
         new QPushButton(QIcon::fromTheme(QStringLiteral("view-refresh")), tr("Refresh"), this);
