@@ -9,9 +9,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QToolBar>
 #include <QVBoxLayout>
-#include <QWidgetAction>
 
 #include "app/mainwindow.h"
 
@@ -113,17 +111,7 @@ EinvoiceWindowActions::EinvoiceWindowActions(MainWindow& window, AppSession& ses
     menu->addSeparator();
     menu->addActions({exportAction, details, about});
 
-    if (auto* bar = window.findChild<QToolBar*>(QStringLiteral("mainToolBar"))) {
-        // Before the spacer that pushes the search field to the right.
-        QAction* before = nullptr;
-        for (QAction* a : bar->actions()) {
-            if (!before && qobject_cast<QWidgetAction*>(a)) {
-                before = a;
-            }
-        }
-        bar->insertSeparator(before);
-        bar->insertActions(before, documentActions_);
-    }
+    window.addToolBarActions(documentActions_);
     connect(&session.documents(), &DocumentList::selectionChanged, this,
             &EinvoiceWindowActions::updateActions);
     updateActions();

@@ -6,6 +6,7 @@
 #include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWidgetAction>
 
 #include "app/documentoperations.h"
 #include "app/editor/clientsection.h"
@@ -60,6 +61,23 @@ QAction* MainWindow::makeAction(QMenu* menu, const QString& text, const char* na
 QAction* MainWindow::action(const QString& name) const
 {
     return findChild<QAction*>(name);
+}
+
+void MainWindow::addToolBarActions(const QList<QAction*>& actions)
+{
+    auto* bar = findChild<QToolBar*>(QStringLiteral("mainToolBar"));
+    if (!bar) {
+        return;
+    }
+    // Before the spacer that pushes the search field to the right.
+    QAction* before = nullptr;
+    for (QAction* a : bar->actions()) {
+        if (!before && qobject_cast<QWidgetAction*>(a)) {
+            before = a;
+        }
+    }
+    bar->insertSeparator(before);
+    bar->insertActions(before, actions);
 }
 
 void MainWindow::createActions()

@@ -35,6 +35,8 @@ public:
     DocumentOperations& operations() const { return operations_; }
     // The window's action with this object name ("deleteInvoice", "newInvoice", ...).
     QAction* action(const QString& name) const;
+    // Adds a group of buttons to the main toolbar, after the others and a separator.
+    void addToolBarActions(const QList<QAction*>& actions);
     // Asked before the window closes; false keeps it open.
     void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
     // Lets the rendering add its button to the reminder and delivery-slip sheets.

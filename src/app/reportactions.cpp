@@ -8,8 +8,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScreen>
-#include <QToolBar>
-#include <QWidgetAction>
 
 #include "app/mainwindow.h"
 #include "app/reportswindow.h"
@@ -52,17 +50,7 @@ ReportWindowActions::ReportWindowActions(MainWindow& window, AppSession& session
     menu->addActions({show, book});
     window.menuBar()->addMenu(menu);
 
-    if (auto* bar = window.findChild<QToolBar*>(QStringLiteral("mainToolBar"))) {
-        // Before the spacer that pushes the search field to the right.
-        QAction* before = nullptr;
-        for (QAction* a : bar->actions()) {
-            if (!before && qobject_cast<QWidgetAction*>(a)) {
-                before = a;
-            }
-        }
-        bar->insertSeparator(before);
-        bar->insertAction(before, show);
-    }
+    window.addToolBarActions({show});
 }
 
 void ReportWindowActions::showReportsWindow()
