@@ -84,13 +84,12 @@ void ReportWindowActions::showReportsWindow()
 
 void ReportWindowActions::printAccountBook()
 {
-    std::unique_ptr<PrinterDocument> book;
-    {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        book = AccountBook(session_).printAccountBook();
-        book->layout();
-        QApplication::restoreOverrideCursor();
-    }
+    AccountBook accountBook(session_);
+    accountBook.showPrintHint();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const std::unique_ptr<PrinterDocument> book = accountBook.accountBookDocument();
+    book->layout();
+    QApplication::restoreOverrideCursor();
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(tr("Account Book"));
     printer.setPageSize(QPageSize(book->pageSize, QPageSize::Point));

@@ -204,12 +204,17 @@ std::unique_ptr<PrinterDocument> accountBookLayout(std::vector<PrinterItem> item
 
 std::unique_ptr<PrinterDocument> AccountBook::printAccountBook()
 {
+    showPrintHint();
+    return accountBookDocument();
+}
+
+void AccountBook::showPrintHint()
+{
     Settings& settings = session_.settings();
     if (!settings.boolean(key::isAccountBookPrintHintShown)) {
         session_.prompter().ask({QStringLiteral("Hint!"), kHint, {QStringLiteral("OK")}});
         settings.set(key::isAccountBookPrintHintShown, true);
     }
-    return accountBookDocument();
 }
 
 std::unique_ptr<PrinterDocument> AccountBook::accountBookDocument()

@@ -22,6 +22,8 @@ public:
 
     // The window's action up to the print panel: the hint on first use, then the book.
     std::unique_ptr<PrinterDocument> printAccountBook();
+    // The hint that the book follows the main list, the first time only.
+    void showPrintHint();
     // The book of the documents listed now (after search and filter), their totals
     // recalculated first.
     std::unique_ptr<PrinterDocument> accountBookDocument();
