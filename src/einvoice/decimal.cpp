@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <vector>
 
 namespace tamo {
 
@@ -52,7 +53,59 @@ std::string subtract(const std::string& a, const std::string& b)
     return difference;
 }
 
+// The magnitude's digits with at least `scale` + 1 of them, so that the integer part is never
+// empty.
+std::string padded(std::string digits, int scale)
+{
+    if (digits.size() < size_t(scale) + 1) {
+        digits.insert(0, size_t(scale) + 1 - digits.size(), '0');
+    }
+    return digits;
+}
+
+void increment(std::string& digits)
+{
+    size_t i = digits.size();
+    while (i > 0 && digits[i - 1] == '9') {
+        digits[--i] = '0';
+    }
+    if (i == 0) {
+        digits.insert(0, 1, '1');
+    } else {
+        ++digits[i - 1];
+    }
+}
+
 }  // namespace
+
+std::optional<Decimal> Decimal::fromText(QStringView text)
+{
+    text = text.trimmed();
+    Decimal d;
+    if (!text.isEmpty() && (text.front() == u'-' || text.front() == u'+')) {
+        d.negative_ = text.front() == u'-';
+        text = text.mid(1);
+    }
+    std::string digits;
+    int scale = -1;
+    for (const QChar c : text) {
+        if (c == u'.' && scale < 0) {
+            scale = 0;
+        } else if (c.isDigit() && c.unicode() < 128) {
+            digits.push_back(char(c.unicode()));
+            scale += scale >= 0 ? 1 : 0;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (digits.empty()) {
+        return std::nullopt;
+    }
+    d.digits_ = digits;
+    d.scale_ = std::max(scale, 0);
+    trimLeadingZeros(d.digits_);
+    return d;
+}
 
 Decimal Decimal::fromDouble(double value)
 {
@@ -114,6 +167,94 @@ Decimal operator+(const Decimal& a, const Decimal& b)
     return sum;
 }
 
+Decimal operator*(const Decimal& a, const Decimal& b)
+{
+    Decimal product;
+    if (!a.finite_ || !b.finite_) {
+        product.finite_ = false;
+        return product;
+    }
+    std::vector<int> sum(a.digits_.size() + b.digits_.size(), 0);
+    for (size_t i = a.digits_.size(); i-- > 0;) {
+        for (size_t j = b.digits_.size(); j-- > 0;) {
+            sum[i + j + 1] += (a.digits_[i] - '0') * (b.digits_[j] - '0');
+        }
+    }
+    for (size_t k = sum.size(); k-- > 1;) {
+        sum[k - 1] += sum[k] / 10;
+        sum[k] %= 10;
+    }
+    product.digits_.clear();
+    for (const int digit : sum) {
+        product.digits_.push_back(char('0' + digit));
+    }
+    trimLeadingZeros(product.digits_);
+    product.scale_ = a.scale_ + b.scale_;
+    product.negative_ = a.negative_ != b.negative_;
+    return product;
+}
+
+int Decimal::sign() const
+{
+    if (!finite_ || digits_.find_first_not_of('0') == std::string::npos) {
+        return 0;
+    }
+    return negative_ ? -1 : 1;
+}
+
+Decimal Decimal::roundedUp(int places) const
+{
+    if (!finite_ || scale_ <= places) {
+        return *this;
+    }
+    const std::string digits = padded(digits_, scale_);
+    const size_t cut = digits.size() - size_t(scale_ - places);
+    Decimal d = *this;
+    d.digits_ = digits.substr(0, cut);
+    d.scale_ = places;
+    const char first = digits[cut];
+    const bool beyondHalf = digits.find_first_not_of('0', cut + 1) != std::string::npos;
+    // Towards positive infinity: a negative tie keeps its magnitude.
+    if (negative_ ? (first > '5' || (first == '5' && beyondHalf)) : first >= '5') {
+        increment(d.digits_);
+    }
+    trimLeadingZeros(d.digits_);
+    return d;
+}
+
+int Decimal::places() const
+{
+    const size_t last = digits_.find_last_not_of('0');
+    const int trailingZeros = last == std::string::npos ? scale_ : int(digits_.size() - 1 - last);
+    return std::max(0, scale_ - trailingZeros);
+}
+
+QString Decimal::text(int minPlaces) const
+{
+    if (!finite_) {
+        return QStringLiteral("NaN");
+    }
+    const int scale = std::max(places(), minPlaces);
+    std::string digits = digits_;
+    if (scale >= scale_) {
+        digits.append(size_t(scale - scale_), '0');
+    } else {
+        digits.resize(digits.size() - size_t(scale_ - scale));  // only zeros go
+    }
+    digits = padded(digits, scale);
+    std::string text = sign() < 0 ? "-" : "";
+    text += digits.substr(0, digits.size() - size_t(scale));
+    if (scale > 0) {
+        text += '.' + digits.substr(digits.size() - size_t(scale));
+    }
+    return QString::fromLatin1(text);
+}
+
+double Decimal::toDouble() const
+{
+    return finite_ ? text().toDouble() : std::nan("");
+}
+
 Decimal Decimal::shifted(int places) const
 {
     Decimal d = *this;
@@ -140,9 +281,7 @@ QString Decimal::amountText() const
         d.append(size_t(2 - scale), '0');
         scale = 2;
     }
-    if (d.size() < size_t(scale) + 1) {
-        d.insert(0, size_t(scale) + 1 - d.size(), '0');
-    }
+    d = padded(d, scale);
     if (scale > 2) {
         const size_t keep = d.size() - size_t(scale - 2);
         const char first = d[keep];
@@ -150,15 +289,7 @@ QString Decimal::amountText() const
         const bool odd = (d[keep - 1] - '0') % 2 == 1;
         d.resize(keep);
         if (first > '5' || (first == '5' && (beyondHalf || odd))) {
-            size_t i = d.size();
-            while (i > 0 && d[i - 1] == '9') {
-                d[--i] = '0';
-            }
-            if (i == 0) {
-                d.insert(0, 1, '1');
-            } else {
-                ++d[i - 1];
-            }
+            increment(d);
         }
     }
     const bool zero = d.find_first_not_of('0') == std::string::npos;

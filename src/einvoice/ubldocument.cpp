@@ -1,12 +1,10 @@
 #include "einvoice/ubldocument.h"
 
 #include <QStringList>
-#include <QXmlStreamWriter>
 #include <algorithm>
 #include <array>
-#include <optional>
 
-#include "einvoice/decimal.h"
+#include "einvoice/ublparts.h"
 #include "model/record.h"
 #include "settings/settings.h"
 
@@ -27,163 +25,10 @@ Decimal decimal(const Record& record, const char* key)
     return Decimal::fromDouble(record.decimal(key));
 }
 
-// Rates are stored as fractions (0.19) and written as percent (19.00).
-QString percentText(const Record& record, const char* key)
+// Every tax category names the client's tax scheme.
+EinvoiceField schemeSource()
 {
-    return decimal(record, key).shifted(2).amountText();
-}
-
-QString dateText(const QDateTime& date)
-{
-    return date.isValid() ? date.toLocalTime().toString(QStringLiteral("yyyy-MM-dd")) : QString();
-}
-
-QString orElse(const QString& value, const QString& fallback)
-{
-    return value.isEmpty() ? fallback : value;
-}
-
-// Writes elements under their prefixed names; every amount carries the invoice's currency.
-class UblWriter {
-public:
-    UblWriter(QByteArray* out, QString currency) : xml_(out), currency_(std::move(currency))
-    {
-        xml_.setAutoFormatting(true);
-    }
-
-    QXmlStreamWriter& xml() { return xml_; }
-    void open(const char* name) { xml_.writeStartElement(QString::fromLatin1(name)); }
-    void close() { xml_.writeEndElement(); }
-    void text(const char* name, const QString& value)
-    {
-        xml_.writeTextElement(QString::fromLatin1(name), value);
-    }
-    void text(const char* name, const QString& value, const char* attribute,
-              const QString& attributeValue)
-    {
-        open(name);
-        xml_.writeAttribute(QString::fromLatin1(attribute), attributeValue);
-        xml_.writeCharacters(value);
-        close();
-    }
-    // A parent holding one text element.
-    void inside(const char* parent, const char* name, const QString& value)
-    {
-        open(parent);
-        text(name, value);
-        close();
-    }
-    void amount(const char* name, const QString& text)
-    {
-        this->text(name, text, "currencyID", currency_);
-    }
-    void amount(const char* name, const Decimal& value) { amount(name, value.amountText()); }
-    // "cac:TaxCategory" of a subtotal or "cac:ClassifiedTaxCategory" of a line.
-    void taxCategory(const char* element, const QString& id, const QString& percent,
-                     const QString& scheme)
-    {
-        open(element);
-        text("cbc:ID", id);
-        text("cbc:Percent", percent);
-        inside("cac:TaxScheme", "cbc:ID", scheme);
-        close();
-    }
-
-private:
-    QXmlStreamWriter xml_;
-    QString currency_;
-};
-
-struct Party {
-    QString endpoint;
-    QString endpointScheme;
-    QString name;
-    QString street;
-    QString city;
-    QString postalZone;
-    QString countryCode;
-    QString taxCompanyID;
-    QString taxScheme;
-    QString legalName;
-    std::optional<QString> legalCompanyID;  // the customer's legal entity names none
-    QString contactName;
-    std::optional<QString> telephone;  // nor does the customer's contact
-    QString email;
-};
-
-Party supplier(const Settings& s)
-{
-    const QString endpointID = s.string(key::prefsSupplierEndpointID);
-    const QString mail = s.string(key::prefsSupplierElectronicMail);
-    const QString legalName = s.string(key::prefsSupplierLegalName);
-    const QString id = s.string(key::prefsSupplierID);
-    return {.endpoint = orElse(endpointID, mail),
-            .endpointScheme = endpointID.isEmpty() ? QStringLiteral("EM") : QStringLiteral("0088"),
-            .name = orElse(s.string(key::prefsName), legalName),
-            .street = s.string(key::prefsSupplierStreet),
-            .city = s.string(key::prefsSupplierCity),
-            .postalZone = s.string(key::prefsSupplierPostalZone),
-            .countryCode = s.string(key::prefsSupplierCountryCode),
-            .taxCompanyID = id,
-            .taxScheme = s.string(key::prefsSupplierTaxScheme),
-            .legalName = legalName,
-            .legalCompanyID = orElse(s.string(key::prefsSupplierTaxID), id),
-            .contactName = s.string(key::prefsSupplierContact),
-            .telephone = s.string(key::prefsSupplierContactPhone),
-            .email = mail};
-}
-
-Party customer(const Record& invoice)
-{
-    const QString mail = invoice.string("emailAddress");
-    const QString legalName = invoice.string("evoiceLegalName");
-    return {.endpoint = mail,
-            .endpointScheme = QStringLiteral("EM"),
-            .name = legalName,
-            .street = invoice.string("evoiceStreet"),
-            .city = invoice.string("evoiceCity"),
-            .postalZone = invoice.string("evoicePostalCode"),
-            .countryCode = invoice.string("evoiceCountryCode"),
-            .taxCompanyID = invoice.string("customerVATID"),
-            .taxScheme = invoice.string("evoiceTaxScheme"),
-            .legalName = legalName,
-            .legalCompanyID = std::nullopt,
-            .contactName = orElse(invoice.string("evoiceContact"), legalName),
-            .telephone = std::nullopt,
-            .email = mail};
-}
-
-void writeParty(UblWriter& w, const char* role, const Party& p)
-{
-    w.open(role);
-    w.open("cac:Party");
-    w.text("cbc:EndpointID", p.endpoint, "schemeID", p.endpointScheme);
-    w.inside("cac:PartyName", "cbc:Name", p.name);
-    w.open("cac:PostalAddress");
-    w.text("cbc:StreetName", p.street);
-    w.text("cbc:CityName", p.city);
-    w.text("cbc:PostalZone", p.postalZone);
-    w.inside("cac:Country", "cbc:IdentificationCode", p.countryCode);
-    w.close();
-    w.open("cac:PartyTaxScheme");
-    w.text("cbc:CompanyID", p.taxCompanyID);
-    w.inside("cac:TaxScheme", "cbc:ID", p.taxScheme);
-    w.close();
-    w.open("cac:PartyLegalEntity");
-    w.text("cbc:RegistrationName", p.legalName);
-    if (p.legalCompanyID) {
-        w.text("cbc:CompanyID", *p.legalCompanyID);
-    }
-    w.close();
-    w.open("cac:Contact");
-    w.text("cbc:Name", p.contactName);
-    if (p.telephone) {
-        w.text("cbc:Telephone", *p.telephone);
-    }
-    w.text("cbc:ElectronicMail", p.email);
-    w.close();
-    w.close();
-    w.close();
+    return EinvoiceField::details("evoiceTaxScheme");
 }
 
 void writeTaxTotal(UblWriter& w, const Record& invoice)
@@ -192,35 +37,48 @@ void writeTaxTotal(UblWriter& w, const Record& invoice)
     std::array<double, 3> tax{};
     std::transform(kTaxAmount.begin(), kTaxAmount.end(), tax.begin(),
                    [&](const char* key) { return invoice.decimal(key); });
-    w.open("cac:TaxTotal");
     if (std::any_of(tax.begin(), tax.end(), [](double t) { return t > 0; })) {
+        const Kept kept = std::any_of(tax.begin(), tax.end(), [](double t) { return t < 0; })
+                              ? Kept::PositiveTaxesOnly
+                              : Kept::StoredTaxes;
+        w.open("cac:TaxTotal", {}, kept);
         // The total adds all three, a negative one included; only positive taxes get a subtotal.
-        w.amount("cbc:TaxAmount", Decimal::fromDouble(tax[0]) + Decimal::fromDouble(tax[1]) +
-                                      Decimal::fromDouble(tax[2]));
+        w.amount(
+            "cbc:TaxAmount",
+            Decimal::fromDouble(tax[0]) + Decimal::fromDouble(tax[1]) + Decimal::fromDouble(tax[2]),
+            {}, kept);
         for (size_t n = 0; n < tax.size(); ++n) {
             if (!(tax[n] > 0)) {
                 continue;
             }
             Decimal taxable = decimal(invoice, kTaxableAmount[n]);
             // The totals leave the discount in the taxable sums; only tax 1 gives it back here.
-            if (n == 0 && invoice.boolean("isDiscountEnabled")) {
+            const bool discounted = n == 0 && invoice.boolean("isDiscountEnabled");
+            if (discounted) {
                 taxable = taxable - decimal(invoice, "invoiceDiscountSum");
             }
-            w.open("cac:TaxSubtotal");
+            w.open("cac:TaxSubtotal", {},
+                   discounted ? Kept::DiscountOnFirstTax : Kept::StoredTaxes);
             w.amount("cbc:TaxableAmount", taxable);
             w.amount("cbc:TaxAmount", Decimal::fromDouble(tax[n]));
-            w.taxCategory("cac:TaxCategory", QStringLiteral("S"),
-                          percentText(invoice, kTaxPercent[n]), scheme);
+            w.taxCategory("cac:TaxCategory", {.id = QStringLiteral("S"),
+                                              .percent = percentText(invoice, kTaxPercent[n]),
+                                              .scheme = scheme,
+                                              .schemeSource = schemeSource()});
             w.close();
         }
     } else {
         // An untaxed invoice: one zero-rated subtotal over the lines, its zeros as a bare "0".
         const QString zero = QStringLiteral("0");
+        w.open("cac:TaxTotal", {}, Kept::ZeroRatedWithoutLines);
         w.amount("cbc:TaxAmount", zero);
-        w.open("cac:TaxSubtotal");
+        w.open("cac:TaxSubtotal", {}, Kept::ZeroRatedWithoutLines);
         w.amount("cbc:TaxableAmount", decimal(invoice, "subAmount"));
         w.amount("cbc:TaxAmount", zero);
-        w.taxCategory("cac:TaxCategory", QStringLiteral("Z"), zero, scheme);
+        w.taxCategory("cac:TaxCategory", {.id = QStringLiteral("Z"),
+                                          .percent = zero,
+                                          .scheme = scheme,
+                                          .schemeSource = schemeSource()});
         w.close();
     }
     w.close();
@@ -229,19 +87,25 @@ void writeTaxTotal(UblWriter& w, const Record& invoice)
 void writeMonetaryTotal(UblWriter& w, const Record& invoice)
 {
     const Decimal lines = decimal(invoice, "subAmount");
-    const Decimal shipping =
-        invoice.boolean("isShippingEnabled") ? decimal(invoice, "shippingAmount") : Decimal();
+    const bool shipped = invoice.boolean("isShippingEnabled");
+    const Decimal shipping = shipped ? decimal(invoice, "shippingAmount") : Decimal();
     const bool discounted = invoice.boolean("isDiscountEnabled");
     const Decimal discount = discounted ? decimal(invoice, "invoiceDiscountSum") : Decimal();
     const Decimal amount = decimal(invoice, "amount");
+    const auto keptIf = [](bool condition, Kept kept) {
+        return condition ? kept : Kept::StoredTotals;
+    };
     w.open("cac:LegalMonetaryTotal");
-    w.amount("cbc:LineExtensionAmount", lines + shipping);
+    w.amount("cbc:LineExtensionAmount", lines + shipping, {},
+             keptIf(discounted, Kept::LineTotalWithoutDiscount));
     // With a discount the shipping is counted a second time, as in every e-invoice Tamo has
     // written; recipients reconcile against these files, so the sum stays as it is.
     w.amount("cbc:TaxExclusiveAmount",
-             discounted ? lines + shipping - discount + shipping : lines + shipping);
-    w.amount("cbc:TaxInclusiveAmount", amount + discount);
-    w.amount("cbc:PayableAmount", amount);
+             discounted ? lines + shipping - discount + shipping : lines + shipping, {},
+             keptIf(discounted && shipped, Kept::ShippingTwice));
+    w.amount("cbc:TaxInclusiveAmount", amount + discount, {},
+             keptIf(discounted, Kept::DiscountAddedBack));
+    w.amount("cbc:PayableAmount", amount, {}, keptIf(discounted, Kept::DiscountAddedBack));
     w.close();
 }
 
@@ -251,25 +115,34 @@ struct Line {
     QString price;
     QString name;
     QStringList percents;  // one classified tax category per applied tax
+    EinvoiceField source;
+    EinvoiceField nameSource;
+    Kept kept = Kept::None;
+    Kept priceKept = Kept::None;
+    Kept quantityKept = Kept::None;
 };
 
 void writeLine(UblWriter& w, int number, const Line& line, const QString& scheme)
 {
     const QString id = QString::number(number);
-    w.open("cac:InvoiceLine");
-    w.text("cbc:ID", id);
-    w.text("cbc:InvoicedQuantity", line.quantity, "unitCode", QStringLiteral("C62"));
+    w.open("cac:InvoiceLine", line.source, line.kept);
+    w.leaf("cbc:ID", id);
+    w.leaf("cbc:InvoicedQuantity", line.quantity, {}, line.quantityKept)
+        .attributes.emplace_back(QStringLiteral("unitCode"), QStringLiteral("C62"));
     w.amount("cbc:LineExtensionAmount", line.amount);
     w.inside("cac:OrderLineReference", "cbc:LineID", id);
     w.open("cac:Item");
-    w.text("cbc:Name", line.name);
+    w.leaf("cbc:Name", line.name, line.nameSource);
     for (const QString& percent : line.percents) {
-        w.taxCategory("cac:ClassifiedTaxCategory", QStringLiteral("S"), percent, scheme);
+        w.taxCategory("cac:ClassifiedTaxCategory", {.id = QStringLiteral("S"),
+                                                    .percent = percent,
+                                                    .scheme = scheme,
+                                                    .schemeSource = schemeSource()});
     }
     w.close();
     w.open("cac:Price");
-    w.amount("cbc:PriceAmount", line.price);
-    w.text("cbc:BaseQuantity", QStringLiteral("1"));
+    w.amount("cbc:PriceAmount", line.price, {}, line.priceKept);
+    w.leaf("cbc:BaseQuantity", QStringLiteral("1"));
     w.close();
     w.close();
 }
@@ -286,28 +159,51 @@ QStringList appliedPercents(const Record& flags, const Keys& flagKeys, const Rec
     return percents;
 }
 
+Kept categoriesKept(const QStringList& percents)
+{
+    return percents.isEmpty()    ? Kept::UntaxedLine
+           : percents.size() > 1 ? Kept::SeveralTaxes
+                                 : Kept::None;
+}
+
 void writeLines(UblWriter& w, const Record& invoice, const std::vector<Record*>& items)
 {
+    using F = EinvoiceField;
     const QString scheme = invoice.string("evoiceTaxScheme");
     const QString one = QStringLiteral("1");
     int number = 0;
     for (const Record* item : items) {
-        writeLine(w, ++number,
-                  {.quantity = amountText(item->decimal("unitCount")),
-                   .amount = amountText(item->decimal("subAmount")),
-                   .price = amountText(item->decimal("baseAmount")),
-                   .name = item->string("title"),
-                   .percents = appliedPercents(*item, kItemTaxApplied, *item)},
-                  scheme);
+        ++number;
+        const Decimal quantity = decimal(*item, "unitCount");
+        const Decimal price = decimal(*item, "baseAmount");
+        const QStringList percents = appliedPercents(*item, kItemTaxApplied, *item);
+        writeLine(
+            w, number,
+            {.quantity = quantity.amountText(),
+             .amount = amountText(item->decimal("subAmount")),
+             .price = price.amountText(),
+             .name = item->string("title"),
+             .percents = percents,
+             .source = F::line(number, percents.isEmpty() ? "isTax1Applied" : "taxes"),
+             .nameSource = F::line(number, "title"),
+             .kept = categoriesKept(percents),
+             .priceKept = price.sign() < 0 ? Kept::NegativePrice : Kept::None,
+             .quantityKept = quantity.places() > 2 || price.places() > 2 ? Kept::TwoDecimalQuantity
+                                                                         : Kept::None},
+            scheme);
     }
     if (invoice.boolean("isShippingEnabled")) {
         const QString shipping = amountText(invoice.decimal("shippingAmount"));
+        const QStringList percents = appliedPercents(invoice, kShippingTax, invoice);
         writeLine(w, ++number,
                   {.quantity = one,
                    .amount = shipping,
                    .price = shipping,
                    .name = invoice.string("shippingTitle"),
-                   .percents = appliedPercents(invoice, kShippingTax, invoice)},
+                   .percents = percents,
+                   .source = F::document("isShippingTax1Enabled"),
+                   .nameSource = F::document("shippingTitle"),
+                   .kept = categoriesKept(percents)},
                   scheme);
     }
     if (invoice.boolean("isDiscountEnabled")) {
@@ -318,57 +214,36 @@ void writeLines(UblWriter& w, const Record& invoice, const std::vector<Record*>&
                    .amount = discount,
                    .price = discount,
                    .name = invoice.string("discountTitle"),
-                   .percents = {}},
+                   .percents = {},
+                   .source = F::document("isDiscountEnabled"),
+                   .nameSource = F::document("discountTitle"),
+                   .kept = Kept::DiscountLine,
+                   .priceKept = Kept::DiscountLine},
                   scheme);
     }
 }
 
 }  // namespace
 
-QString evoiceXMLString(const Record& invoice, const std::vector<Record*>& lines,
-                        const Settings& settings, const QDateTime& now)
+UblDocument evoiceDocument(const Record& invoice, const std::vector<Record*>& lines,
+                           const Settings& settings, const QDateTime& now)
 {
-    QByteArray bytes;
-    UblWriter w(&bytes, invoice.string("evoiceCurrency"));
-    QXmlStreamWriter& xml = w.xml();
-    xml.writeStartDocument();
-    w.open("Invoice");
-    xml.writeDefaultNamespace(
-        QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:Invoice-2"));
-    xml.writeNamespace(
-        QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonAggregateComponents-2"),
-        QStringLiteral("cac"));
-    xml.writeNamespace(
-        QStringLiteral("urn:oasis:names:specification:ubl:schema:xsd:CommonBasicComponents-2"),
-        QStringLiteral("cbc"));
-    xml.writeComment(QStringLiteral("Created with E-Tamo from Sorel Software: https://tamo.app"));
-
-    w.text("cbc:CustomizationID",
-           QStringLiteral("urn:cen.eu:en16931:2017#compliant#urn:xeinkauf.de:kosit:xrechnung_3.0"));
-    w.text("cbc:ProfileID", QStringLiteral("urn:fdc:peppol.eu:2017:poacc:billing:01:1.0"));
-    w.text("cbc:ID", invoice.string("number"));
-    w.text("cbc:IssueDate", dateText(invoice.date("date")));
-    w.text("cbc:DueDate", dateText(invoice.date("due")));
-    w.text("cbc:InvoiceTypeCode", QStringLiteral("380"));  // a quote is written as an invoice too
+    UblWriter w(invoice.string("evoiceCurrency"));
     // The supplier's currency names the document; the amounts carry the invoice's own.
-    w.text("cbc:DocumentCurrencyCode", settings.string(key::prefsSupplierCurrency));
-    w.text("cbc:BuyerReference", invoice.string("title"));
-    writeParty(w, "cac:AccountingSupplierParty", supplier(settings));
-    writeParty(w, "cac:AccountingCustomerParty", customer(invoice));
-
-    w.inside("cac:Delivery", "cbc:ActualDeliveryDate",
-             dateText(invoice.boolean("isDispatched") ? invoice.date("dispatched") : now));
-    w.open("cac:PaymentMeans");
-    w.text("cbc:PaymentMeansCode", QStringLiteral("31"));
-    w.inside("cac:PayeeFinancialAccount", "cbc:ID", settings.string(key::prefsSupplierIBAN));
-    w.close();
-
+    writeHeader(w, invoice, settings, now,
+                {.documentCurrency = settings.string(key::prefsSupplierCurrency),
+                 .documentCurrencySource = EinvoiceField::setting(key::prefsSupplierCurrency.name),
+                 .documentCurrencyKept = Kept::SupplierCurrency});
     writeTaxTotal(w, invoice);
     writeMonetaryTotal(w, invoice);
     writeLines(w, invoice, lines);
-    w.close();
-    xml.writeEndDocument();
-    return QString::fromUtf8(bytes);
+    return {w.take(), einvoiceComment()};
+}
+
+QString evoiceXMLString(const Record& invoice, const std::vector<Record*>& lines,
+                        const Settings& settings, const QDateTime& now)
+{
+    return serialise(evoiceDocument(invoice, lines, settings, now));
 }
 
 }  // namespace tamo

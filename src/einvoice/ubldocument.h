@@ -4,6 +4,8 @@
 #include <QString>
 #include <vector>
 
+#include "einvoice/ubltree.h"
+
 namespace tamo {
 
 class Record;
@@ -17,5 +19,9 @@ class Settings;
 // the invoice holds enough for a valid e-invoice is the readiness check's business.
 QString evoiceXMLString(const Record& invoice, const std::vector<Record*>& lines,
                         const Settings& settings, const QDateTime& now);
+// The same document as a tree, each element knowing where its value comes from and which of the
+// kept ways of writing it follows.
+UblDocument evoiceDocument(const Record& invoice, const std::vector<Record*>& lines,
+                           const Settings& settings, const QDateTime& now);
 
 }  // namespace tamo
