@@ -119,6 +119,9 @@ struct SettingKey {
     X(prefsSupplierTaxSchemeBool, Boolean)            \
     X(prefsSupplierCountryCodeBool, Boolean)          \
     X(prefsEvoiceDefaultCurrencyCodeBool, Boolean)    \
+    X(prefsEvoiceConformantBool, Boolean)             \
+    X(prefsEvoiceExemptionCategory, Text)             \
+    X(prefsEvoiceExemptionReason, Text)               \
     /* Printing and PDF */                            \
     X(tempPaperSize, Integer)                         \
     X(printBorderless, Boolean)                       \
