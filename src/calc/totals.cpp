@@ -327,6 +327,11 @@ void Totals::calculateDatabase()
         collectStatistics(session_.documents().arranged(), session_.clock().now()));
 }
 
+bool callsForCompoundTaxes(const Settings& settings, const Record& document)
+{
+    return chooseCalculator(settings, document) == Calculator::Compound;
+}
+
 bool affectsTotals(const Record& record, std::string_view key)
 {
     static constexpr std::string_view kDocumentKeys[] = {

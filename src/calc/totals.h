@@ -39,6 +39,10 @@ private:
 // The statistics pass itself, over `documents` in their listed order.
 DocumentStatistics collectStatistics(const std::vector<Record*>& documents, const QDateTime& now);
 
+// Whether the document's taxes call for the compound calculator: a line with a compound tax, or
+// shipping taxed by tax 2 or 3 while the tax 2 setting is compound.
+bool callsForCompoundTaxes(const Settings& settings, const Record& document);
+
 // Whether a change of this attribute of a document or line changes the document's amounts.
 bool affectsTotals(const Record& record, std::string_view key);
 
