@@ -1,7 +1,10 @@
 // The e-invoice on the command line: the export of the generate sheet with the file named as an
-// argument, the readiness check, the details sheet and the e-invoicing notice.
+// argument, the readiness and rule checks, the details sheet and the e-invoicing notice.
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include "cli/commands.h"
 #include "einvoice/einvoiceactions.h"
@@ -15,6 +18,60 @@ Failure alreadySent(const QString& document)
     return Failure{QStringLiteral("%1 is marked as already sent; set its status back to Created "
                                   "to change or export it again")
                        .arg(document)};
+}
+
+// The settings' choice of file unless the command line names one.
+EinvoiceOptions optionsFor(const AppSession& session, const CommandArgs& args)
+{
+    EinvoiceOptions options = einvoiceOptions(session.settings());
+    if (args.has(u"--conformant"_qs)) {
+        options.conformant = true;
+    } else if (args.has(u"--standard"_qs)) {
+        options.conformant = false;
+    }
+    return options;
+}
+
+QString severityText(const Finding& finding)
+{
+    return finding.fatal() ? u"fatal"_qs : u"warning"_qs;
+}
+
+void printFindings(const EinvoiceCheck& check, QTextStream& out)
+{
+    out << (check.readiness.possible() ? u"possible"_qs
+                                       : u"not possible: "_qs + check.readiness.reason())
+        << '\n';
+    for (const Finding& f : check.findings) {
+        out << f.rule << ' ' << severityText(f) << ": " << f.message;
+        if (const QString where = einvoiceFieldLabel(f.field); !where.isEmpty()) {
+            out << " [" << where << ']';
+        }
+        out << '\n';
+    }
+    const auto fatal = std::count_if(check.findings.begin(), check.findings.end(),
+                                     [](const Finding& f) { return f.fatal(); });
+    if (fatal == 0) {
+        out << "passes the EN 16931 and XRechnung rules\n";
+    } else {
+        out << fatal
+            << " fatal finding(s): the recipient's validator will likely reject the file\n";
+    }
+}
+
+void printJson(const EinvoiceCheck& check, QTextStream& out)
+{
+    QJsonArray findings;
+    for (const Finding& f : check.findings) {
+        findings.append(QJsonObject{{u"rule"_qs, f.rule},
+                                    {u"severity"_qs, severityText(f)},
+                                    {u"message"_qs, f.message},
+                                    {u"field"_qs, einvoiceFieldLabel(f.field)}});
+    }
+    out << QJsonDocument(
+               QJsonObject{{u"ready"_qs, check.readiness.possible()}, {u"findings"_qs, findings}})
+               .toJson(QJsonDocument::Compact)
+        << '\n';
 }
 
 }  // namespace
@@ -43,9 +100,24 @@ std::optional<Failure> einvoiceCommand(AppSession& session, const CommandArgs& a
     if (actions.isCurrentInvoiceSent()) {
         return alreadySent(operands[0]);
     }
+    const EinvoiceOptions options = optionsFor(session, args);
+    const std::vector<Finding> findings = actions.einvoiceFindings(options);
+    if (const auto refused =
+            std::find_if(findings.begin(), findings.end(),
+                         [](const Finding& f) { return f.rule == u"TAMO-CONFORMANT"; });
+        refused != findings.end()) {
+        return Failure{QStringLiteral("no conformant e-invoice for %1: %2")
+                           .arg(operands[0], refused->message)};
+    }
+    if (hasFatal(findings)) {
+        // Scripts keep their exports; einvoice-check is the gate that fails.
+        out << "Warning: this e-invoice will likely be rejected: it breaks rules the recipient's "
+               "validator checks (see einvoice-check "
+            << operands[0] << ").\n";
+    }
     actions.markAsSent();
     const QString path = QFileInfo(operands[1]).absoluteFilePath();
-    if (auto written = actions.writeEvoiceXML(path); !written) {
+    if (auto written = actions.writeEvoiceXML(path, options); !written) {
         return Failure{written.error().text()};  // the store is not saved: nothing is marked
     }
     out << "Wrote " << path << '\n';
@@ -62,12 +134,19 @@ std::optional<Failure> einvoiceCheckCommand(AppSession& session, const CommandAr
     if (!document) {
         return document.error();
     }
-    const Readiness readiness = EinvoiceActions(session).isEvoiceActionPossible();
-    if (!readiness.possible()) {
-        out << "not possible: " << readiness.reason() << '\n';
+    const EinvoiceCheck check = EinvoiceActions(session).checkEinvoice(optionsFor(session, args));
+    if (args.has(u"--json"_qs)) {
+        printJson(check, out);
+    } else {
+        printFindings(check, out);
+    }
+    if (!check.readiness.possible()) {
         return Failure{QStringLiteral("%1 cannot become an e-invoice yet").arg(args.operand(0))};
     }
-    out << "possible\n";
+    if (!check.passes()) {
+        return Failure{
+            QStringLiteral("%1 breaks rules of EN 16931 or XRechnung").arg(args.operand(0))};
+    }
     return std::nullopt;
 }
 

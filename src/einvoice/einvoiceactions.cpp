@@ -6,6 +6,8 @@
 
 #include "calc/totals.h"
 #include "documents/lineitems.h"
+#include "einvoice/decimal.h"
+#include "einvoice/rulecheck.h"
 #include "einvoice/ubldocument.h"
 
 namespace tamo {
@@ -59,12 +61,94 @@ void EinvoiceActions::markAsSent()
 
 QString EinvoiceActions::evoiceXMLString() const
 {
+    const auto xml = einvoiceXML({});
+    return xml ? *xml : QString();
+}
+
+std::expected<UblDocument, Finding> EinvoiceActions::einvoiceDocument(
+    const EinvoiceOptions& options) const
+{
     const Record* invoice = session_.documents().current();
     if (!invoice) {
-        return {};
+        return std::unexpected(
+            Finding{QStringLiteral("TAMO-CONFORMANT"),
+                    Finding::Severity::Fatal,
+                    QCoreApplication::translate("Einvoice", "No document is selected."),
+                    {}});
     }
-    return tamo::evoiceXMLString(*invoice, LineItems(session_).sortedItems(*invoice),
-                                 session_.settings(), session_.clock().now());
+    const std::vector<Record*> lines = LineItems(session_).sortedItems(*invoice);
+    if (options.conformant) {
+        return conformantDocument(*invoice, lines, session_.settings(), session_.clock().now(),
+                                  options);
+    }
+    return evoiceDocument(*invoice, lines, session_.settings(), session_.clock().now());
+}
+
+std::expected<QString, Finding> EinvoiceActions::einvoiceXML(const EinvoiceOptions& options) const
+{
+    const auto document = einvoiceDocument(options);
+    if (!document) {
+        return std::unexpected(document.error());
+    }
+    return serialise(*document);
+}
+
+std::vector<Finding> EinvoiceActions::einvoiceFindings(const EinvoiceOptions& options) const
+{
+    const auto document = einvoiceDocument(options);
+    if (!document) {
+        return {document.error()};
+    }
+    std::vector<Finding> findings = checkEinvoiceRules(*document);
+    const QString due = document->root.textAt(u"cac:LegalMonetaryTotal/cbc:PayableAmount");
+    const QString shown = amountText(session_.documents().current()->decimal("amount"));
+    if (options.conformant && due != shown) {
+        findings.push_back(
+            {QStringLiteral("TAMO-AMOUNT"),
+             Finding::Severity::Warning,
+             QCoreApplication::translate(
+                 "Einvoice",
+                 "The conformant file asks for %1, while the document shows %2: the rules levy "
+                 "each tax on the amount after the discount at each line's own rate and round "
+                 "each tax subtotal once, which the document's totals do not.")
+                 .arg(due, shown),
+             {}});
+    }
+    return findings;
+}
+
+EinvoiceCheck EinvoiceActions::checkEinvoice(const EinvoiceOptions& options)
+{
+    EinvoiceCheck check{isEvoiceActionPossible(), {}};
+    if (session_.documents().current()) {
+        check.findings = einvoiceFindings(options);
+    }
+    return check;
+}
+
+Alert likelyRejectedAlert(const std::vector<Finding>& findings)
+{
+    const auto fatal =
+        std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.fatal(); });
+    const auto first =
+        std::find_if(findings.begin(), findings.end(), [](const Finding& f) { return f.fatal(); });
+    return {QCoreApplication::translate("Einvoice", "This e-invoice will likely be rejected"),
+            QCoreApplication::translate("Einvoice",
+                                        "It breaks %n rule(s) the recipient's validator checks "
+                                        "(first %1: %2). Export it anyway?",
+                                        nullptr, int(fatal))
+                .arg(first->rule, first->message),
+            {QCoreApplication::translate("Einvoice", "Export Anyway"),
+             QCoreApplication::translate("Einvoice", "Cancel")}};
+}
+
+bool EinvoiceActions::confirmDespiteFindings(const std::vector<Finding>& findings)
+{
+    if (!hasFatal(findings)) {
+        return true;
+    }
+    return session_.prompter().ask(likelyRejectedAlert(findings)) ==
+           QCoreApplication::translate("Einvoice", "Export Anyway");
 }
 
 QString EinvoiceActions::proposedFileName() const
@@ -79,11 +163,16 @@ QString EinvoiceActions::proposedFileName() const
     return name.replace(u'/', u'-');
 }
 
-Result<void> EinvoiceActions::writeEvoiceXML(const QString& path) const
+Result<void> EinvoiceActions::writeEvoiceXML(const QString& path,
+                                             const EinvoiceOptions& options) const
 {
+    const auto xml = einvoiceXML(options);
+    if (!xml) {
+        return fail(QStringLiteral("tamo.einvoice"), 2, xml.error().message);
+    }
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-        file.write(evoiceXMLString().toUtf8());
+        file.write(xml->toUtf8());
         if (file.commit()) {
             qCInfo(lcEinvoice).noquote()
                 << QStringLiteral("File saved successfully at %1").arg(path);
@@ -98,7 +187,7 @@ Result<void> EinvoiceActions::writeEvoiceXML(const QString& path) const
                 file.errorString());
 }
 
-void EinvoiceActions::writeEvoiceXMLToDisk()
+void EinvoiceActions::writeEvoiceXMLToDisk(const EinvoiceOptions& options)
 {
     if (!session_.documents().current()) {
         return;
@@ -109,15 +198,15 @@ void EinvoiceActions::writeEvoiceXMLToDisk()
     request.proposedName = proposedFileName();
     request.canCreateDirectories = true;
     if (const auto path = session_.prompter().chooseFileToSave(request); path && !path->isEmpty()) {
-        (void)writeEvoiceXML(*path);  // logged; the user is not told
+        (void)writeEvoiceXML(*path, options);  // logged; the user is not told
     }
 }
 
-void EinvoiceActions::exportEvoiceAction()
+void EinvoiceActions::exportEvoiceAction(const EinvoiceOptions& options)
 {
     markAsSent();
     session_.saveContext();
-    writeEvoiceXMLToDisk();
+    writeEvoiceXMLToDisk(options);
 }
 
 void EinvoiceActions::setEvoiceDetail(std::string_view key, const QString& value)

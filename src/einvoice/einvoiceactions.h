@@ -4,10 +4,13 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <expected>
 #include <span>
 #include <string_view>
 
 #include "documents/lifecycle.h"
+#include "einvoice/conformantdocument.h"
+#include "einvoice/findings.h"
 #include "model/appsession.h"
 #include "platform/error.h"
 
@@ -61,6 +64,18 @@ struct EinvoiceNotice {
 };
 EinvoiceNotice einvoiceNotice();
 
+// The readiness check and the rule check of one e-invoice.
+struct EinvoiceCheck {
+    Readiness readiness;
+    std::vector<Finding> findings;
+
+    // Ready, and nothing the recipient's validator would reject.
+    bool passes() const { return readiness.possible() && !hasFatal(findings); }
+};
+
+// "Export Anyway" / "Cancel": asked before an e-invoice with fatal findings leaves the program.
+Alert likelyRejectedAlert(const std::vector<Finding>& findings);
+
 // The e-invoice operations on the session's current document: the readiness check and its
 // notice, the already-sent guard of the e-invoice sheets, marking as sent, the XML file and the
 // details. Questions and panels go through the session's prompter; the file is only logged
@@ -83,15 +98,27 @@ public:
     // to sent (status 1) and recalculates; quotes are never marked. Saving is the caller's.
     void markAsSent();
 
+    // The standard file.
     QString evoiceXMLString() const;
+    // The file these options write: the standard one, or the conformant one unless the document
+    // cannot be written so (the finding says why).
+    std::expected<UblDocument, Finding> einvoiceDocument(const EinvoiceOptions& options) const;
+    std::expected<QString, Finding> einvoiceXML(const EinvoiceOptions& options) const;
+    // The rule findings of that file; for the conformant file also a note when the amount due
+    // differs from the document's total.
+    std::vector<Finding> einvoiceFindings(const EinvoiceOptions& options) const;
+    // The readiness check first (it recalculates), then the rules.
+    EinvoiceCheck checkEinvoice(const EinvoiceOptions& options);
+    // True when there is nothing fatal, or when the person chooses to go on anyway.
+    bool confirmDespiteFindings(const std::vector<Finding>& findings);
     // "legal name - title - number", with no "/" to be read as a folder.
     QString proposedFileName() const;
     // Writes the current invoice's e-invoice to `path` in one piece.
-    Result<void> writeEvoiceXML(const QString& path) const;
+    Result<void> writeEvoiceXML(const QString& path, const EinvoiceOptions& options = {}) const;
     // Asks where to save, then writes; cancelling does nothing.
-    void writeEvoiceXMLToDisk();
+    void writeEvoiceXMLToDisk(const EinvoiceOptions& options = {});
     // The generate sheet's export: mark as sent and save, then write the file.
-    void exportEvoiceAction();
+    void exportEvoiceAction(const EinvoiceOptions& options = {});
 
     // Sets one field of the details sheet on the current invoice as one undoable edit and saves.
     void setEvoiceDetail(std::string_view key, const QString& value);

@@ -53,7 +53,14 @@ TEST_F(EinvoiceCommandsTest, ChecksWritesMarksAndThenRefusesTheSentInvoice)
 
     tamo({u"settings"_qs, u"set"_qs, u"prefsSupplierIBAN"_qs, u"DE02120300000000202051"_qs});
     tamo({u"settings"_qs, u"set"_qs, u"markInvoiceAsSent"_qs, u"true"_qs});
-    EXPECT_EQ(tamo({u"einvoice-check"_qs, n}), std::pair(0, u"possible\n"_qs));
+    // Ready, but the untaxed line has no tax category in the standard file.
+    result = tamo({u"einvoice-check"_qs, n});
+    EXPECT_EQ(result.first, 1);
+    EXPECT_TRUE(result.second.startsWith(u"possible\nBR-CO-04 fatal: Line 1 has no tax category."))
+        << result.second.toStdString();
+    tamo({u"settings"_qs, u"set"_qs, u"prefsEvoiceExemptionReason"_qs, u"Kleinunternehmer"_qs});
+    EXPECT_EQ(tamo({u"einvoice-check"_qs, n, u"--conformant"_qs}),
+              std::pair(0, u"possible\npasses the EN 16931 and XRechnung rules\n"_qs));
     EXPECT_EQ(tamo({u"einvoice-details"_qs, n, u"evoiceCty=Potsdam"_qs}).first, kUsageError);
     result = tamo({u"einvoice-details"_qs, n, u"evoiceCity=Potsdam"_qs});
     EXPECT_TRUE(result.second.contains(u"\nCity (evoiceCity): Potsdam\n"));
