@@ -235,13 +235,12 @@ QString Decimal::text(int minPlaces) const
         return QStringLiteral("NaN");
     }
     const int scale = std::max(places(), minPlaces);
-    std::string digits = digits_;
+    std::string digits = padded(digits_, scale_);
     if (scale >= scale_) {
         digits.append(size_t(scale - scale_), '0');
     } else {
         digits.resize(digits.size() - size_t(scale_ - scale));  // only zeros go
     }
-    digits = padded(digits, scale);
     std::string text = sign() < 0 ? "-" : "";
     text += digits.substr(0, digits.size() - size_t(scale));
     if (scale > 0) {

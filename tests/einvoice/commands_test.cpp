@@ -1,6 +1,11 @@
 #include <QFile>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "cli/commands.h"
+#include "einvoice/rulecheck.h"
 #include "einvoicefixture.h"
 #include "support/commandrunner.h"
 #include "ublschema.h"
@@ -74,6 +79,62 @@ TEST_F(EinvoiceCommandsTest, ChecksWritesMarksAndThenRefusesTheSentInvoice)
     EXPECT_EQ(result.first, 1);
     EXPECT_TRUE(result.second.contains(u"already sent"));
     EXPECT_EQ(tamo({u"einvoice-details"_qs, n, u"evoiceCity=Bonn"_qs}).first, 1);
+}
+
+TEST_F(EinvoiceCommandsTest, ChecksAsJsonAndWritesTheConformantFileOrRefusesIt)
+{
+    Record* d = invoice(
+        u"due=2099-12-31T12:00:00Z tax1Percent=0.19 isDiscountEnabled=true "
+        u"discountKind=0 discountAmount=50");
+    setTexts(d, {{"discountTitle", u"Loyalty"}});
+    item(d, u"Design", u"baseAmount=450 unitCount=1 isTax1Applied=true tax1Percent=0.19");
+    Record* event = invoice(u"due=2099-12-31T12:00:00Z tax1Percent=0.19 tax2Percent=0.07");
+    event->setValue("number", u"RE-2026-018"_qs);
+    item(event, u"Event",
+         u"baseAmount=200 unitCount=1 isTax1Applied=true tax1Percent=0.19 isTax2Applied=true "
+         u"tax2Percent=0.07");
+    ASSERT_TRUE(session.saveContext());
+    const QString n = u"RE-2026-017"_qs;
+
+    const auto json = [&](QStringList words) {
+        const auto [code, out] = tamo(words << u"--json"_qs);
+        return std::pair(code, QJsonDocument::fromJson(out.section(u'\n', 0, 0).toUtf8()).object());
+    };
+    auto [code, check] = json({u"einvoice-check"_qs, n});
+    EXPECT_EQ(code, 1);
+    EXPECT_TRUE(check[u"ready"_qs].toBool());
+    const QJsonArray findings = check[u"findings"_qs].toArray();
+    const auto lineTotal = std::find_if(findings.begin(), findings.end(), [](const QJsonValue& f) {
+        return f[u"rule"_qs] == u"BR-CO-10"_qs;
+    });
+    ASSERT_NE(lineTotal, findings.end());
+    EXPECT_EQ((*lineTotal)[u"severity"_qs], u"fatal"_qs);
+    EXPECT_EQ((*lineTotal)[u"field"_qs], u"E-Invoice sheet: prefsEvoiceConformantBool"_qs);
+
+    // The conformant file keeps every rule; only the changed amount due is noted.
+    std::tie(code, check) = json({u"einvoice-check"_qs, n, u"--conformant"_qs});
+    EXPECT_EQ(code, 0);
+    ASSERT_EQ(check[u"findings"_qs].toArray().size(), 1);
+    EXPECT_EQ(check[u"findings"_qs][0][u"rule"_qs], u"TAMO-AMOUNT"_qs);
+    EXPECT_EQ(check[u"findings"_qs][0][u"severity"_qs], u"warning"_qs);
+
+    // The setting makes it the default; --standard still asks for the other.
+    tamo({u"settings"_qs, u"set"_qs, u"prefsEvoiceConformantBool"_qs, u"true"_qs});
+    EXPECT_EQ(json({u"einvoice-check"_qs, n}).first, 0);
+    EXPECT_EQ(json({u"einvoice-check"_qs, n, u"--standard"_qs}).first, 1);
+
+    const QString refused = dir.path(u"event.xml"_qs);
+    const auto [refusedCode, refusedText] = tamo({u"einvoice"_qs, u"RE-2026-018"_qs, refused});
+    EXPECT_EQ(refusedCode, 1);
+    EXPECT_TRUE(refusedText.contains(u"Line 1 has 2 taxes"));
+    EXPECT_FALSE(QFile::exists(refused));
+
+    const QString written = dir.path(u"conformant.xml"_qs);
+    EXPECT_EQ(tamo({u"einvoice"_qs, n, written}).first, 0);
+    const QString xml = readFile(written);
+    EXPECT_EQ(UblSchema::invoice().problems(xml), QStringList());
+    EXPECT_TRUE(xml.contains(u"<cbc:AllowanceChargeReason>Loyalty</cbc:AllowanceChargeReason>"));
+    EXPECT_TRUE(checkEinvoiceRules(*parseUbl(xml)).empty());
 }
 
 }  // namespace
