@@ -1,6 +1,9 @@
 #include "app/einvoicesheets.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -11,11 +14,21 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/einvoicefindings.h"
 #include "app/mainwindow.h"
+#include "settings/settings.h"
 
 namespace tamo {
 
-EvoiceGenerateSheet::EvoiceGenerateSheet(QWidget* parent) : QDialog(parent)
+EvoiceGenerateSheet::EvoiceGenerateSheet(EinvoiceActions& actions, Settings& settings,
+                                         QWidget* parent)
+    : QDialog(parent),
+      actions_(actions),
+      settings_(settings),
+      conformant_(new QCheckBox(tr("Write the conformant file"), this)),
+      exemption_(new QComboBox(this)),
+      reason_(new QLineEdit(this)),
+      view_(new EinvoiceFindingsView(this))
 {
     setWindowTitle(tr("E-Invoice"));
     auto* text = new QLabel(tr("Export the selected invoice as an XRechnung e-invoice (UBL XML "
@@ -23,17 +36,99 @@ EvoiceGenerateSheet::EvoiceGenerateSheet(QWidget* parent) : QDialog(parent)
                                "sent."),
                             this);
     text->setWordWrap(true);
+
+    conformant_->setObjectName(QStringLiteral("conformantFile"));
+    conformant_->setToolTip(
+        tr("Discount and shipping as allowances and charges per tax category, lines without "
+           "taxes in an exemption category, totals computed from the lines: the structure the "
+           "EN 16931 rules require. The standard file is written as Tamo always wrote it."));
+    conformant_->setChecked(settings_.boolean(key::prefsEvoiceConformantBool));
+    exemption_->setObjectName(QStringLiteral("exemptionCategory"));
+    for (const ExemptionCategory& c : exemptionCategories()) {
+        exemption_->addItem(
+            QStringLiteral("%1 – %2").arg(QLatin1StringView(c.code),
+                                          QCoreApplication::translate("Einvoice", c.name)),
+            QString::fromLatin1(c.code));
+    }
+    const QString chosen = settings_.string(key::prefsEvoiceExemptionCategory);
+    exemption_->setCurrentIndex(
+        std::max(0, exemption_->findData(chosen.isEmpty() ? u"E"_qs : chosen)));
+    reason_->setObjectName(QStringLiteral("exemptionReason"));
+    reason_->setText(settings_.string(key::prefsEvoiceExemptionReason));
+    reason_->setPlaceholderText(tr("Why they are untaxed, e.g. Kleinunternehmer gemäß § 19 UStG"));
+    auto* form = new QFormLayout;
+    form->addRow(conformant_);
+    form->addRow(tr("Lines without taxes:"), exemption_);
+    form->addRow(tr("Exemption reason:"), reason_);
+
+    // The choices are kept as they are made, for this file and the next.
+    connect(conformant_, &QCheckBox::toggled, this, [this](bool on) {
+        settings_.set(key::prefsEvoiceConformantBool, on);
+        check();
+    });
+    connect(exemption_, &QComboBox::currentIndexChanged, this, [this] {
+        settings_.set(key::prefsEvoiceExemptionCategory, exemption_->currentData().toString());
+        check();
+    });
+    connect(reason_, &QLineEdit::textEdited, this, [this](const QString& reason) {
+        settings_.set(key::prefsEvoiceExemptionReason, reason);
+        check();
+    });
+    connect(view_, &EinvoiceFindingsView::findingActivated, this, &EvoiceGenerateSheet::jumpTo);
+
+    auto* rulesHeading =
+        new QLabel(u"<b>"_qs + tr("Rule check").toHtmlEscaped() + u"</b>"_qs, this);
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* exportButton =
-        buttons->addButton(tr("Export E-Invoice…"), QDialogButtonBox::AcceptRole);
-    exportButton->setDefault(true);
+    export_ = buttons->addButton(tr("Export E-Invoice…"), QDialogButtonBox::AcceptRole);
+    export_->setDefault(true);
     buttons->addButton(QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] { done(Export); });
+    connect(buttons, &QDialogButtonBox::accepted, this, &EvoiceGenerateSheet::exportFile);
     connect(buttons, &QDialogButtonBox::rejected, this, [this] { done(Cancelled); });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text);
+    layout->addLayout(form);
+    layout->addSpacing(6);
+    layout->addWidget(rulesHeading);
+    layout->addWidget(view_, 1);
     layout->addWidget(buttons);
-    setMinimumWidth(420);
+    setMinimumWidth(560);
+    check();
+}
+
+void EvoiceGenerateSheet::check()
+{
+    const EinvoiceOptions chosen = options();
+    exemption_->setEnabled(chosen.conformant);
+    reason_->setEnabled(chosen.conformant);
+    findings_ = actions_.einvoiceFindings(chosen);
+    view_->showFindings(findings_);
+    // A document the conformant file cannot express is not exported in that form at all.
+    export_->setEnabled(std::none_of(findings_.begin(), findings_.end(), [](const Finding& f) {
+        return f.rule == u"TAMO-CONFORMANT";
+    }));
+}
+
+void EvoiceGenerateSheet::exportFile()
+{
+    if (actions_.confirmDespiteFindings(findings_)) {
+        done(Export);
+    }
+}
+
+void EvoiceGenerateSheet::jumpTo(const EinvoiceField& field)
+{
+    const QLatin1StringView key(field.key ? field.key : "");
+    QWidget* own = key == QLatin1StringView(key::prefsEvoiceConformantBool.name) ? conformant_
+                   : key == QLatin1StringView(key::prefsEvoiceExemptionCategory.name)
+                       ? static_cast<QWidget*>(exemption_)
+                   : key == QLatin1StringView(key::prefsEvoiceExemptionReason.name) ? reason_
+                                                                                    : nullptr;
+    if (field.kind == EinvoiceField::Kind::Setting && own) {
+        own->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    target_ = field;
+    done(Jump);
 }
 
 EvoiceDetailsSheet::EvoiceDetailsSheet(EinvoiceActions& actions, const Record& invoice,
@@ -102,7 +197,7 @@ EinvoiceWindowActions::EinvoiceWindowActions(MainWindow& window, AppSession& ses
                                 tr("E-Invoice Details…"), this);
     details->setObjectName(QStringLiteral("evoiceDetailsToolbar"));
     details->setIconText(tr("E-Invoice Details"));
-    connect(details, &QAction::triggered, this, &EinvoiceWindowActions::openEnvoiceDetailsSheet);
+    connect(details, &QAction::triggered, this, [this] { openEnvoiceDetailsSheet(); });
     auto* about = new QAction(tr("About E-Invoicing…"), this);
     connect(about, &QAction::triggered, this, &EinvoiceWindowActions::loadEvoiceAlertAction);
     documentActions_ = {exportAction, details};
@@ -138,18 +233,34 @@ void EinvoiceWindowActions::openEnvoiceGenerateSheet()
     if (!actions_.mayChangeCurrentInvoice()) {
         return;
     }
-    EvoiceGenerateSheet sheet(&window_);
-    if (sheet.exec() == EvoiceGenerateSheet::Export) {
-        actions_.exportEvoiceAction();
+    EvoiceGenerateSheet sheet(actions_, session_.settings(), &window_);
+    switch (sheet.exec()) {
+    case EvoiceGenerateSheet::Export:
+        actions_.exportEvoiceAction(sheet.options());
+        break;
+    case EvoiceGenerateSheet::Jump:
+        if (sheet.jumpTarget().kind == EinvoiceField::Kind::Details) {
+            openEnvoiceDetailsSheet(sheet.jumpTarget().key);
+        } else {
+            showEinvoiceField(window_, session_, sheet.jumpTarget());
+        }
+        break;
+    default:
+        break;
     }
 }
 
-void EinvoiceWindowActions::openEnvoiceDetailsSheet()
+void EinvoiceWindowActions::openEnvoiceDetailsSheet(const char* focusKey)
 {
     if (!actions_.mayChangeCurrentInvoice()) {
         return;
     }
     EvoiceDetailsSheet sheet(actions_, *session_.documents().current(), &window_);
+    for (const EvoiceField& f : evoiceDetailFields()) {
+        if (focusKey && std::string_view(f.key) == focusKey) {
+            sheet.field(f.key)->setFocus(Qt::OtherFocusReason);
+        }
+    }
     if (sheet.exec() == EvoiceDetailsSheet::Export) {
         // The generate sheet would open only to export at once, so go straight to the export,
         // behind the same guard.

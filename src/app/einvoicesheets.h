@@ -7,20 +7,52 @@
 #include "einvoice/einvoiceactions.h"
 
 class QAction;
+class QCheckBox;
+class QComboBox;
 class QLineEdit;
+class QPushButton;
 
 namespace tamo {
 
+class EinvoiceFindingsView;
 class MainWindow;
 
-// The generate sheet: the choice between exporting the e-invoice and (with the mail dispatch)
-// mailing it. Ends with Export or Cancelled.
+// The generate sheet: the choice of file (standard or conformant, with the exemption category
+// and reason for lines without taxes, all kept in the settings), the rule check of that file,
+// and the export. Ends with Export, Cancelled, or Jump to the place a finding names.
 class EvoiceGenerateSheet : public QDialog {
     Q_OBJECT
 
 public:
-    enum Code { Cancelled = 0, Export = 1 };
-    explicit EvoiceGenerateSheet(QWidget* parent = nullptr);
+    enum Code { Cancelled = 0, Export = 1, Jump = 2 };
+    EvoiceGenerateSheet(EinvoiceActions& actions, Settings& settings, QWidget* parent = nullptr);
+
+    EinvoiceOptions options() const { return einvoiceOptions(settings_); }
+    const std::vector<Finding>& findings() const { return findings_; }
+    // The place chosen when the sheet ended with Jump.
+    EinvoiceField jumpTarget() const { return target_; }
+    // Goes to a finding's place: the sheet's own fields stay open, the rest ends it with Jump.
+    void jumpTo(const EinvoiceField& field);
+
+    QCheckBox* conformantBox() const { return conformant_; }
+    QComboBox* exemptionBox() const { return exemption_; }
+    QLineEdit* reasonField() const { return reason_; }
+    EinvoiceFindingsView* findingsView() const { return view_; }
+    QPushButton* exportButton() const { return export_; }
+
+private:
+    void check();
+    void exportFile();
+
+    EinvoiceActions& actions_;
+    Settings& settings_;
+    QCheckBox* conformant_;
+    QComboBox* exemption_;
+    QLineEdit* reason_;
+    EinvoiceFindingsView* view_;
+    QPushButton* export_;
+    std::vector<Finding> findings_;
+    EinvoiceField target_;
 };
 
 // The details sheet: the customer's e-invoice values of one invoice. The fields write to the
@@ -52,7 +84,8 @@ public:
     // Checks the current invoice, then opens the generate sheet or shows the requirements.
     void evoiceActionToolbar();
     void openEnvoiceGenerateSheet();
-    void openEnvoiceDetailsSheet();
+    // Opens the details sheet, with the field of `focusKey` focused when one is given.
+    void openEnvoiceDetailsSheet(const char* focusKey = nullptr);
     void loadEvoiceAlertAction();
 
 private:
