@@ -92,6 +92,7 @@ EvoiceGenerateSheet::EvoiceGenerateSheet(EinvoiceActions& actions, Settings& set
     layout->addWidget(view_, 1);
     layout->addWidget(buttons);
     setMinimumWidth(560);
+    resize(660, 640);
     check();
 }
 
@@ -263,9 +264,10 @@ void EinvoiceWindowActions::openEnvoiceDetailsSheet(const char* focusKey)
     }
     if (sheet.exec() == EvoiceDetailsSheet::Export) {
         // The generate sheet would open only to export at once, so go straight to the export,
-        // behind the same guard.
-        if (actions_.mayChangeCurrentInvoice()) {
-            actions_.exportEvoiceAction();
+        // behind the same guard and the same rule check.
+        const EinvoiceOptions options = einvoiceOptions(session_.settings());
+        if (actions_.mayChangeCurrentInvoice() && actions_.mayExport(options)) {
+            actions_.exportEvoiceAction(options);
         }
     }
 }

@@ -132,14 +132,34 @@ Alert likelyRejectedAlert(const std::vector<Finding>& findings)
         std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.fatal(); });
     const auto first =
         std::find_if(findings.begin(), findings.end(), [](const Finding& f) { return f.fatal(); });
+    const QString intro =
+        fatal == 1 ? QCoreApplication::translate("Einvoice",
+                                                 "It breaks a rule the recipient's validator "
+                                                 "checks:")
+                   : QCoreApplication::translate("Einvoice",
+                                                 "It breaks %1 rules the recipient's validator "
+                                                 "checks, the first:")
+                         .arg(fatal);
     return {QCoreApplication::translate("Einvoice", "This e-invoice will likely be rejected"),
-            QCoreApplication::translate("Einvoice",
-                                        "It breaks %n rule(s) the recipient's validator checks "
-                                        "(first %1: %2). Export it anyway?",
-                                        nullptr, int(fatal))
-                .arg(first->rule, first->message),
+            intro + u"\n\n"_qs + first->rule + u": "_qs + first->message + u"\n\n"_qs +
+                QCoreApplication::translate("Einvoice", "Export it anyway?"),
             {QCoreApplication::translate("Einvoice", "Export Anyway"),
              QCoreApplication::translate("Einvoice", "Cancel")}};
+}
+
+bool EinvoiceActions::mayExport(const EinvoiceOptions& options)
+{
+    const std::vector<Finding> findings = einvoiceFindings(options);
+    const auto refused = std::find_if(findings.begin(), findings.end(), [](const Finding& f) {
+        return f.rule == u"TAMO-CONFORMANT";
+    });
+    if (refused != findings.end()) {
+        session_.prompter().ask({QCoreApplication::translate("Einvoice", "Error!"),
+                                 refused->message,
+                                 {QCoreApplication::translate("Einvoice", "OK")}});
+        return false;
+    }
+    return confirmDespiteFindings(findings);
 }
 
 bool EinvoiceActions::confirmDespiteFindings(const std::vector<Finding>& findings)

@@ -111,6 +111,9 @@ public:
     EinvoiceCheck checkEinvoice(const EinvoiceOptions& options);
     // True when there is nothing fatal, or when the person chooses to go on anyway.
     bool confirmDespiteFindings(const std::vector<Finding>& findings);
+    // Before the file these options write leaves the program (export or mail): false, after
+    // saying why, when the conformant file cannot be written; otherwise as above.
+    bool mayExport(const EinvoiceOptions& options);
     // "legal name - title - number", with no "/" to be read as a folder.
     QString proposedFileName() const;
     // Writes the current invoice's e-invoice to `path` in one piece.

@@ -276,7 +276,7 @@ void checkBreakdownSums(const Category& c, const std::vector<Taxed>& items,
         }
         if (b.taxable && !(*b.taxable == expected)) {
             report.add(ruleId(c, 8), kFatal,
-                       tr("The taxable amount of the subtotal %1 (%2) is not the sum of its "
+                       tr("The taxable amount of the subtotal “%1” (%2) is not the sum of its "
                           "lines, less allowances and plus charges (%3).")
                            .arg(name, shown(*b.taxable), shown(expected)),
                        b.node);
@@ -291,8 +291,8 @@ void checkBreakdownSums(const Category& c, const std::vector<Taxed>& items,
                            b.node);
             }
         } else if (!c.atLeastOne && b.tax && !b.tax->isZero()) {
-            report.add(ruleId(c, 9), kFatal, tr("The tax of the subtotal %1 must be 0.").arg(name),
-                       b.node);
+            report.add(ruleId(c, 9), kFatal,
+                       tr("The tax of the subtotal “%1” must be 0.").arg(name), b.node);
         }
         if (b.reason != c.reasonRequired) {
             report.add(ruleId(c, 10), kFatal,
@@ -301,7 +301,7 @@ void checkBreakdownSums(const Category& c, const std::vector<Taxed>& items,
                                 "enter it on the e-invoice sheet (for example the law that "
                                 "exempts them).")
                                  .arg(name)
-                           : tr("The subtotal %1 may not give an exemption reason.").arg(name),
+                           : tr("The subtotal “%1” may not give an exemption reason.").arg(name),
                        b.category);
         }
     }

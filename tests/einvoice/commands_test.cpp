@@ -137,4 +137,28 @@ TEST_F(EinvoiceCommandsTest, ChecksAsJsonAndWritesTheConformantFileOrRefusesIt)
     EXPECT_TRUE(checkEinvoiceRules(*parseUbl(xml)).empty());
 }
 
+using ExportGuardTest = EinvoiceTest;
+
+TEST_F(ExportGuardTest, RefusesWhatCannotBeWrittenAndAsksBeforeARejectedFile)
+{
+    Record* d = invoice(u"tax1Percent=0.19 tax2Percent=0.07");
+    Record* line = item(d, u"Event",
+                        u"baseAmount=200 unitCount=1 isTax1Applied=true "
+                        u"tax1Percent=0.19 isTax2Applied=true tax2Percent=0.07");
+    EinvoiceActions actions(session);
+    EXPECT_FALSE(actions.mayExport({true, {}, {}}));
+    EXPECT_EQ(prompter.alerts().back().title, u"Error!");
+    EXPECT_TRUE(prompter.alerts().back().text.startsWith(u"Line 1 has 2 taxes"));
+
+    prompter.queueAnswer(u"Cancel"_qs);
+    EXPECT_FALSE(actions.mayExport({}));  // several categories on one line
+    EXPECT_EQ(prompter.alerts().back().title, u"This e-invoice will likely be rejected");
+
+    line->setValue("isTax2Applied", false);
+    totals.calculateInvoice(*d);
+    const auto asked = prompter.alerts().size();
+    EXPECT_TRUE(actions.mayExport({}));
+    EXPECT_EQ(prompter.alerts().size(), asked);
+}
+
 }  // namespace
