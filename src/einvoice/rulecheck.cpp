@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <algorithm>
+#include <span>
 
 #include "einvoice/codelists.h"
 #include "einvoice/ruleengine.h"
@@ -200,71 +201,79 @@ bool plausibleMailAddress(const QString& text)
            });
 }
 
-void checkSeller(const UblNode& seller, Report& report)
+// A value a party or address must hold. Rules stated with normalize-space take spaces for
+// empty; the others only the empty text.
+struct Required {
+    const char* rule;
+    const char* path;
+    bool spacesAreEmpty;
+    const char* message;
+};
+
+constexpr Required kSellerValues[] = {
+    {"BR-06", "cac:PartyLegalEntity/cbc:RegistrationName", false,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's legal name is missing.")},
+    {"BR-09", "cac:PostalAddress/cac:Country/cbc:IdentificationCode", false,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's country code is missing.")},
+    {"BR-DE-3", "cac:PostalAddress/cbc:CityName", true,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's city is missing.")},
+    {"BR-DE-4", "cac:PostalAddress/cbc:PostalZone", true,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's postal code is missing.")},
+    {"BR-DE-5", "cac:Contact/cbc:Name", true,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's contact person is missing.")},
+    {"BR-DE-6", "cac:Contact/cbc:Telephone", true,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's phone number is missing.")},
+    {"BR-DE-7", "cac:Contact/cbc:ElectronicMail", true,
+     QT_TRANSLATE_NOOP("Einvoice", "Your company's e-mail address is missing.")},
+};
+
+constexpr Required kBuyerValues[] = {
+    {"BR-07", "cac:PartyLegalEntity/cbc:RegistrationName", false,
+     QT_TRANSLATE_NOOP("Einvoice", "The client's legal name is missing.")},
+    {"BR-11", "cac:PostalAddress/cac:Country/cbc:IdentificationCode", false,
+     QT_TRANSLATE_NOOP("Einvoice", "The client's country code is missing.")},
+    {"BR-DE-8", "cac:PostalAddress/cbc:CityName", true,
+     QT_TRANSLATE_NOOP("Einvoice", "The client's city is missing.")},
+    {"BR-DE-9", "cac:PostalAddress/cbc:PostalZone", true,
+     QT_TRANSLATE_NOOP("Einvoice", "The client's postal code is missing.")},
+};
+
+constexpr Required kDeliveryValues[] = {
+    {"BR-DE-10", "cbc:CityName", true,
+     QT_TRANSLATE_NOOP("Einvoice", "The place of delivery has no city.")},
+    {"BR-DE-11", "cbc:PostalZone", true,
+     QT_TRANSLATE_NOOP("Einvoice", "The place of delivery has no postal code.")},
+};
+
+void checkRequired(const UblNode& owner, std::span<const Required> values, Report& report)
 {
-    const UblNode* name = seller.at(u"cac:PartyLegalEntity/cbc:RegistrationName");
-    if (missing(name)) {
-        report.add("BR-06", kFatal, tr("Your company's legal name is missing."), name);
-    }
-    const UblNode* country = seller.at(u"cac:PostalAddress/cac:Country/cbc:IdentificationCode");
-    if (missing(country)) {
-        report.add("BR-09", kFatal, tr("Your company's country code is missing."), country);
-    }
-    const std::pair<const char*, const char*> required[] = {
-        {"BR-DE-3", "cac:PostalAddress/cbc:CityName"},
-        {"BR-DE-4", "cac:PostalAddress/cbc:PostalZone"},
-        {"BR-DE-5", "cac:Contact/cbc:Name"},
-        {"BR-DE-6", "cac:Contact/cbc:Telephone"},
-        {"BR-DE-7", "cac:Contact/cbc:ElectronicMail"},
-    };
-    const char* const what[] = {
-        QT_TRANSLATE_NOOP("Einvoice", "Your company's city is missing."),
-        QT_TRANSLATE_NOOP("Einvoice", "Your company's postal code is missing."),
-        QT_TRANSLATE_NOOP("Einvoice", "Your company's contact person is missing."),
-        QT_TRANSLATE_NOOP("Einvoice", "Your company's phone number is missing."),
-        QT_TRANSLATE_NOOP("Einvoice", "Your company's e-mail address is missing."),
-    };
-    for (size_t i = 0; i < std::size(required); ++i) {
-        const UblNode* node = seller.at(QString::fromLatin1(required[i].second));
-        if (blank(node)) {
-            report.add(required[i].first, kFatal, tr(what[i]), node);
-        }
-    }
-    if (const UblNode* contact = seller.child(u"cac:Contact")) {
-        const UblNode* phone = contact->child(u"cbc:Telephone");
-        const QString number = phone ? phone->text : QString();
-        if (std::count_if(number.begin(), number.end(), [](QChar c) { return c.isDigit(); }) < 3) {
-            report.add("BR-DE-27", kWarning,
-                       tr("Your phone number should contain at least three digits."), phone);
-        }
-        const UblNode* mail = contact->child(u"cbc:ElectronicMail");
-        if (!plausibleMailAddress(mail ? mail->text : QString())) {
-            report.add("BR-DE-28", kWarning,
-                       tr("Your e-mail address “%1” should be one address such as "
-                          "name@example.com.")
-                           .arg(mail ? mail->text : QString()),
-                       mail);
+    for (const Required& v : values) {
+        const UblNode* node = owner.at(QString::fromLatin1(v.path));
+        if (v.spacesAreEmpty ? blank(node) : missing(node)) {
+            report.add(v.rule, kFatal, tr(v.message), node);
         }
     }
 }
 
-void checkBuyer(const UblNode& buyer, Report& report)
+void checkSellerContact(const UblNode& seller, Report& report)
 {
-    const UblNode* name = buyer.at(u"cac:PartyLegalEntity/cbc:RegistrationName");
-    if (missing(name)) {
-        report.add("BR-07", kFatal, tr("The client's legal name is missing."), name);
+    const UblNode* contact = seller.child(u"cac:Contact");
+    if (!contact) {
+        return;
     }
-    const UblNode* country = buyer.at(u"cac:PostalAddress/cac:Country/cbc:IdentificationCode");
-    if (missing(country)) {
-        report.add("BR-11", kFatal, tr("The client's country code is missing."), country);
+    const UblNode* phone = contact->child(u"cbc:Telephone");
+    const QString number = phone ? phone->text : QString();
+    if (std::count_if(number.begin(), number.end(), [](QChar c) { return c.isDigit(); }) < 3) {
+        report.add("BR-DE-27", kWarning,
+                   tr("Your phone number should contain at least three digits."), phone);
     }
-    const UblNode* city = buyer.at(u"cac:PostalAddress/cbc:CityName");
-    if (blank(city)) {
-        report.add("BR-DE-8", kFatal, tr("The client's city is missing."), city);
-    }
-    const UblNode* postalZone = buyer.at(u"cac:PostalAddress/cbc:PostalZone");
-    if (blank(postalZone)) {
-        report.add("BR-DE-9", kFatal, tr("The client's postal code is missing."), postalZone);
+    const UblNode* mail = contact->child(u"cbc:ElectronicMail");
+    if (!plausibleMailAddress(mail ? mail->text : QString())) {
+        report.add("BR-DE-28", kWarning,
+                   tr("Your e-mail address “%1” should be one address such as "
+                      "name@example.com.")
+                       .arg(mail ? mail->text : QString()),
+                   mail);
     }
 }
 
@@ -312,14 +321,7 @@ void checkDelivery(const UblNode& root, Report& report)
     if (!address->at(u"cac:Country/cbc:IdentificationCode")) {
         report.add("BR-57", kFatal, tr("The place of delivery has no country code."), address);
     }
-    if (blank(address->child(u"cbc:CityName"))) {
-        report.add("BR-DE-10", kFatal, tr("The place of delivery has no city."),
-                   address->child(u"cbc:CityName"));
-    }
-    if (blank(address->child(u"cbc:PostalZone"))) {
-        report.add("BR-DE-11", kFatal, tr("The place of delivery has no postal code."),
-                   address->child(u"cbc:PostalZone"));
-    }
+    checkRequired(*address, kDeliveryValues, report);
 }
 
 void checkSellerTaxNumber(const Parts& parts, Report& report)
@@ -552,10 +554,11 @@ std::vector<Finding> checkEinvoiceRules(const UblDocument& document)
     checkDocument(parts, report);
     checkAmountCurrencies(parts.root, report);
     if (parts.seller) {
-        checkSeller(*parts.seller, report);
+        checkRequired(*parts.seller, kSellerValues, report);
+        checkSellerContact(*parts.seller, report);
     }
     if (parts.buyer) {
-        checkBuyer(*parts.buyer, report);
+        checkRequired(*parts.buyer, kBuyerValues, report);
     }
     checkCodes(parts, report);
     checkDelivery(parts.root, report);

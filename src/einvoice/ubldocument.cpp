@@ -12,13 +12,8 @@ namespace tamo {
 
 namespace {
 
-using Keys = std::array<const char*, 3>;
-constexpr Keys kTaxAmount{"tax1Amount", "tax2Amount", "tax3Amount"};
-constexpr Keys kTaxableAmount{"tax1TaxableAmount", "tax2TaxableAmount", "tax3TaxableAmount"};
-constexpr Keys kTaxPercent{"tax1Percent", "tax2Percent", "tax3Percent"};
-constexpr Keys kItemTaxApplied{"isTax1Applied", "isTax2Applied", "isTax3Applied"};
-constexpr Keys kShippingTax{"isShippingTax1Enabled", "isShippingTax2Enabled",
-                            "isShippingTax3Enabled"};
+constexpr TaxKeys kTaxAmount{"tax1Amount", "tax2Amount", "tax3Amount"};
+constexpr TaxKeys kTaxableAmount{"tax1TaxableAmount", "tax2TaxableAmount", "tax3TaxableAmount"};
 
 Decimal decimal(const Record& record, const char* key)
 {
@@ -148,7 +143,7 @@ void writeLine(UblWriter& w, int number, const Line& line, const QString& scheme
 }
 
 // The percents of the taxes whose flags are set, each rate taken from `rates`.
-QStringList appliedPercents(const Record& flags, const Keys& flagKeys, const Record& rates)
+QStringList appliedPercents(const Record& flags, const TaxKeys& flagKeys, const Record& rates)
 {
     QStringList percents;
     for (size_t n = 0; n < flagKeys.size(); ++n) {

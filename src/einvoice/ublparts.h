@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <array>
 
 #include "einvoice/decimal.h"
 #include "einvoice/ubltree.h"
@@ -13,6 +14,13 @@ namespace tamo {
 
 class Record;
 class Settings;
+
+// The keys of taxes 1, 2 and 3.
+using TaxKeys = std::array<const char*, 3>;
+inline constexpr TaxKeys kTaxPercent{"tax1Percent", "tax2Percent", "tax3Percent"};
+inline constexpr TaxKeys kItemTaxApplied{"isTax1Applied", "isTax2Applied", "isTax3Applied"};
+inline constexpr TaxKeys kShippingTax{"isShippingTax1Enabled", "isShippingTax2Enabled",
+                                      "isShippingTax3Enabled"};
 
 // A tax category; no percent element when `percent` is null, no exemption reason when it is
 // empty.
