@@ -72,7 +72,7 @@ struct HeaderOptions {
     bool deliverToClient = false;
 };
 
-// Everything from the specification identifier to the payment means, in document order.
+// Everything from the customization identifier (BT-24) to the payment means, in document order.
 void writeHeader(UblWriter& w, const Record& invoice, const Settings& settings,
                  const QDateTime& now, const HeaderOptions& options);
 
