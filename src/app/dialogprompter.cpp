@@ -1,6 +1,8 @@
 #include "app/dialogprompter.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -17,6 +19,35 @@ QString nameFilter(const FileRequest& request)
         patterns << QStringLiteral("*.") + e;
     }
     return QObject::tr("Tamo files (%1)").arg(patterns.join(u' '));
+}
+
+// Puts the request's message above everything else of the dialog. The desktop's own panels have
+// no place for it, so a panel with a message is the toolkit's.
+void showMessage(QFileDialog& dialog, const QString& message)
+{
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+    if (!grid) {
+        return;
+    }
+    struct Placed {
+        QLayoutItem* item;
+        int row, column, rows, columns;
+    };
+    std::vector<Placed> placed;
+    while (grid->count() > 0) {
+        Placed p{nullptr, 0, 0, 0, 0};
+        grid->getItemPosition(0, &p.row, &p.column, &p.rows, &p.columns);
+        p.item = grid->takeAt(0);
+        placed.push_back(p);
+    }
+    for (const Placed& p : placed) {
+        grid->addItem(p.item, p.row + 1, p.column, p.rows, p.columns);
+    }
+    auto* label = new QLabel(message, &dialog);
+    label->setObjectName(QStringLiteral("panelMessage"));
+    label->setWordWrap(true);
+    grid->addWidget(label, 0, 0, 1, grid->columnCount());
 }
 }  // namespace
 
@@ -72,8 +103,23 @@ std::optional<QString> DialogPrompter::chooseFileToSave(const FileRequest& reque
         !proposed.endsWith(u'.' + request.extensions.first())) {
         proposed += u'.' + request.extensions.first();
     }
-    const QString path =
-        QFileDialog::getSaveFileName(window_, request.title, proposed, nameFilter(request));
+    QFileDialog dialog(window_, request.title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (const QString filter = nameFilter(request); !filter.isEmpty()) {
+        dialog.setNameFilter(filter);
+        dialog.setDefaultSuffix(request.extensions.first());
+    }
+    if (!request.message.isEmpty()) {
+        showMessage(dialog, request.message);
+    }
+    if (!proposed.isEmpty()) {
+        dialog.selectFile(proposed);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QString path = dialog.selectedFiles().first();
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 

@@ -214,6 +214,8 @@ void EinvoiceActions::writeEvoiceXMLToDisk(const EinvoiceOptions& options)
     }
     FileRequest request;
     request.title = QCoreApplication::translate("Einvoice", "Save E-Invoice XML File");
+    request.message = QCoreApplication::translate(
+        "Einvoice", "Choose a location to save your E-Invoice XML file.");
     request.extensions = {QStringLiteral("xml")};
     request.proposedName = proposedFileName();
     request.canCreateDirectories = true;

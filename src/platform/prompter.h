@@ -17,6 +17,7 @@ struct Alert {
 
 struct FileRequest {
     QString title;
+    QString message;         // a line above the panel's files telling what to choose
     QStringList extensions;  // without dots; empty accepts every file
     QString proposedName;    // save requests only
     bool directories = false;
