@@ -221,6 +221,19 @@ const CommandEntry kCommands[] = {
      reportCommand},
     {u"account-book [--filter TAG] [--search TEXT] --pdf FILE",
      u"every listed document, oldest first, as PDF", true, accountBookCommand},
+    {u"print N [--printer NAME]",
+     u"prints document N on the default printer or NAME; marks an invoice as sent when "
+     u"markInvoiceAsSent is on",
+     true, printCommand},
+    {u"pdf N FILE", u"document N as PDF file; marks an invoice as sent as print does", true,
+     pdfCommand},
+    {u"mail N [--einvoice]",
+     u"a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after "
+     u"its checks; marks an invoice as sent as print does",
+     true, mailCommand},
+    {u"export-document N FILE [--xml]",
+     u"document file that import-document reads (.tamo), or its XML property list", true,
+     exportDocumentCommand},
 };
 
 const CommandEntry* findCommand(const QString& name)

@@ -10,7 +10,9 @@
 namespace tamo {
 
 class AppSession;
+class EinvoiceActions;
 class Record;
+struct EinvoiceOptions;
 
 // The document a command names by its number or its uniqueID; a number two documents share is
 // refused, so that a command never acts on the wrong one.
@@ -61,6 +63,17 @@ std::optional<Failure> einvoiceCommand(AppSession&, const CommandArgs&, QTextStr
 std::optional<Failure> einvoiceCheckCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> einvoiceDetailsCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> einvoiceNoticeCommand(AppSession&, const CommandArgs&, QTextStream&);
+// Before an e-invoice leaves (einvoice, mail --einvoice): the readiness check unless forced, not
+// yet sent, and a conformant file that can be written; a file the recipient's validator will
+// likely reject is only warned of on `out`.
+std::optional<Failure> einvoiceGate(EinvoiceActions& actions, const QString& document,
+                                    const EinvoiceOptions& options, bool force, QTextStream& out);
+
+// Printing, PDF files, mail and document files (dispatchcommands.cpp).
+std::optional<Failure> printCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> pdfCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> mailCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> exportDocumentCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // Lines and clients of a document (linecommands.cpp).
 std::optional<Failure> addItemCommand(AppSession&, const CommandArgs&, QTextStream&);

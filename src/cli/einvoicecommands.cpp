@@ -76,6 +76,37 @@ void printJson(const EinvoiceCheck& check, QTextStream& out)
 
 }  // namespace
 
+std::optional<Failure> einvoiceGate(EinvoiceActions& actions, const QString& document,
+                                    const EinvoiceOptions& options, bool force, QTextStream& out)
+{
+    if (force) {
+        out << "Skipped the e-invoice readiness check (--force); the file may lack required "
+               "values.\n";
+    } else if (const Readiness readiness = actions.isEvoiceActionPossible();
+               !readiness.possible()) {
+        return Failure{QStringLiteral("no e-invoice for %1: %2 (see einvoice-details, settings)")
+                           .arg(document, readiness.reason())};
+    }
+    if (actions.isCurrentInvoiceSent()) {
+        return alreadySent(document);
+    }
+    const std::vector<Finding> findings = actions.einvoiceFindings(options);
+    if (const auto refused =
+            std::find_if(findings.begin(), findings.end(),
+                         [](const Finding& f) { return f.rule == u"TAMO-CONFORMANT"; });
+        refused != findings.end()) {
+        return Failure{
+            QStringLiteral("no conformant e-invoice for %1: %2").arg(document, refused->message)};
+    }
+    if (hasFatal(findings)) {
+        // Scripts keep their exports; einvoice-check is the gate that fails.
+        out << "Warning: this e-invoice will likely be rejected: it breaks rules the recipient's "
+               "validator checks (see einvoice-check "
+            << document << ").\n";
+    }
+    return std::nullopt;
+}
+
 std::optional<Failure> einvoiceCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out)
 {
@@ -89,31 +120,9 @@ std::optional<Failure> einvoiceCommand(AppSession& session, const CommandArgs& a
         return document.error();
     }
     EinvoiceActions actions(session);
-    if (force) {
-        out << "Skipped the e-invoice readiness check (--force); the file may lack required "
-               "values.\n";
-    } else if (const Readiness readiness = actions.isEvoiceActionPossible();
-               !readiness.possible()) {
-        return Failure{QStringLiteral("no e-invoice for %1: %2 (see einvoice-details, settings)")
-                           .arg(operands[0], readiness.reason())};
-    }
-    if (actions.isCurrentInvoiceSent()) {
-        return alreadySent(operands[0]);
-    }
     const EinvoiceOptions options = optionsFor(session, args);
-    const std::vector<Finding> findings = actions.einvoiceFindings(options);
-    if (const auto refused =
-            std::find_if(findings.begin(), findings.end(),
-                         [](const Finding& f) { return f.rule == u"TAMO-CONFORMANT"; });
-        refused != findings.end()) {
-        return Failure{QStringLiteral("no conformant e-invoice for %1: %2")
-                           .arg(operands[0], refused->message)};
-    }
-    if (hasFatal(findings)) {
-        // Scripts keep their exports; einvoice-check is the gate that fails.
-        out << "Warning: this e-invoice will likely be rejected: it breaks rules the recipient's "
-               "validator checks (see einvoice-check "
-            << operands[0] << ").\n";
+    if (auto refused = einvoiceGate(actions, operands[0], options, force, out)) {
+        return refused;
     }
     actions.markAsSent();
     const QString path = QFileInfo(operands[1]).absoluteFilePath();

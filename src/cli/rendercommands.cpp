@@ -39,7 +39,8 @@ std::expected<int, Failure> designIndex(DesignLibrary& designs, const QString& n
 bool commandRendersPages(const QString& command)
 {
     return command == u"render" || command == u"export-pdfs" || command == u"report" ||
-           command == u"account-book";
+           command == u"account-book" || command == u"print" || command == u"pdf" ||
+           command == u"mail";
 }
 
 std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& args, QTextStream& out)

@@ -56,6 +56,7 @@ struct SettingKey {
     X(tempSlipFooter, Text)                           \
     X(tempSlipMisc, Text)                             \
     X(markInvoiceAsSent, Boolean)                     \
+    X(tempEmailBody, Text)                            \
     X(selectedDesign, Integer)                        \
     /* Labels and switches of the rendering */        \
     X(locDate, Text)                                  \
@@ -129,6 +130,7 @@ struct SettingKey {
     X(tempPrintDetails, Boolean)                      \
     X(tempPrintNumbers, Boolean)                      \
     X(currentPrintJobTitle, Text)                     \
+    X(exportFormat, Integer)                          \
     /* Export to the accounting application */        \
     X(prefsLedrixExportBeginDate, Date)               \
     X(prefsLedrixExportEndDate, Date)                 \
