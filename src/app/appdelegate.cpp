@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "app/dispatchactions.h"
 #include "app/editor/documenteditor.h"
 #include "app/einvoicesheets.h"
 #include "app/filemenu.h"
@@ -37,8 +38,9 @@ AppDelegate::AppDelegate(const Profile& profile)
     hooks.openUrl = [](const QString& url) { return QDesktopServices::openUrl(QUrl(url)); };
     installDataMenu(*window_, interchange_);
     // Before the store opens: its set-up loads the shipped designs through these.
-    installRenderActions(*window_, session_);
+    RenderWindowActions* render = installRenderActions(*window_, session_);
     installEinvoiceActions(*window_, session_);
+    installDispatchActions(*window_, session_, *render);
     installReportActions(*window_, session_);
     // Once the event loop runs, so that the notice appears over the finished window.
     hooks.showEinvoiceNotice = [this] {

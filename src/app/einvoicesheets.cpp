@@ -81,8 +81,11 @@ EvoiceGenerateSheet::EvoiceGenerateSheet(EinvoiceActions& actions, Settings& set
     auto* buttons = new QDialogButtonBox(this);
     export_ = buttons->addButton(tr("Export E-Invoice…"), QDialogButtonBox::AcceptRole);
     export_->setDefault(true);
+    mail_ = buttons->addButton(tr("Send by Mail…"), QDialogButtonBox::ActionRole);
+    mail_->setObjectName(QStringLiteral("mailEvoiceAction"));
     buttons->addButton(QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, &EvoiceGenerateSheet::exportFile);
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { exportFile(Export); });
+    connect(mail_, &QPushButton::clicked, this, [this] { exportFile(Mail); });
     connect(buttons, &QDialogButtonBox::rejected, this, [this] { done(Cancelled); });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text);
@@ -104,15 +107,17 @@ void EvoiceGenerateSheet::check()
     findings_ = actions_.einvoiceFindings(chosen);
     view_->showFindings(findings_);
     // A document the conformant file cannot express is not exported in that form at all.
-    export_->setEnabled(std::none_of(findings_.begin(), findings_.end(), [](const Finding& f) {
+    const bool expressible = std::none_of(findings_.begin(), findings_.end(), [](const Finding& f) {
         return f.rule == u"TAMO-CONFORMANT";
-    }));
+    });
+    export_->setEnabled(expressible);
+    mail_->setEnabled(expressible);
 }
 
-void EvoiceGenerateSheet::exportFile()
+void EvoiceGenerateSheet::exportFile(Code code)
 {
     if (actions_.confirmDespiteFindings(findings_)) {
-        done(Export);
+        done(code);
     }
 }
 
@@ -146,16 +151,22 @@ EvoiceDetailsSheet::EvoiceDetailsSheet(EinvoiceActions& actions, const Record& i
         fields_.emplace(f.key, edit);
     }
     auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(tr("Export E-Invoice…"), QDialogButtonBox::ActionRole)
-        ->setObjectName(QStringLiteral("exportButton"));
+    QPushButton* exportButton =
+        buttons->addButton(tr("Export E-Invoice…"), QDialogButtonBox::ActionRole);
+    exportButton->setObjectName(QStringLiteral("exportButton"));
+    QPushButton* send = buttons->addButton(tr("Send E-Invoice…"), QDialogButtonBox::ActionRole);
+    send->setObjectName(QStringLiteral("sendButton"));
     buttons->addButton(QDialogButtonBox::Cancel);
     buttons->addButton(QDialogButtonBox::Ok)->setDefault(true);
-    connect(buttons, &QDialogButtonBox::clicked, this, [this, buttons](QAbstractButton* b) {
-        const auto role = buttons->buttonRole(b);
-        done(role == QDialogButtonBox::AcceptRole   ? Closed
-             : role == QDialogButtonBox::RejectRole ? Cancelled
-                                                    : Export);
-    });
+    connect(buttons, &QDialogButtonBox::clicked, this,
+            [this, buttons, exportButton, send](QAbstractButton* b) {
+                const auto role = buttons->buttonRole(b);
+                done(role == QDialogButtonBox::AcceptRole   ? Closed
+                     : role == QDialogButtonBox::RejectRole ? Cancelled
+                     : b == exportButton                    ? Export
+                     : b == send                            ? Mail
+                                                            : Cancelled);
+            });
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(buttons);
@@ -237,7 +248,8 @@ void EinvoiceWindowActions::openEnvoiceGenerateSheet()
     EvoiceGenerateSheet sheet(actions_, session_.settings(), &window_);
     switch (sheet.exec()) {
     case EvoiceGenerateSheet::Export:
-        actions_.exportEvoiceAction(sheet.options());
+    case EvoiceGenerateSheet::Mail:
+        sendEinvoice(EvoiceGenerateSheet::Code(sheet.result()), sheet.options());
         break;
     case EvoiceGenerateSheet::Jump:
         if (sheet.jumpTarget().kind == EinvoiceField::Kind::Details) {
@@ -262,13 +274,26 @@ void EinvoiceWindowActions::openEnvoiceDetailsSheet(const char* focusKey)
             sheet.field(f.key)->setFocus(Qt::OtherFocusReason);
         }
     }
-    if (sheet.exec() == EvoiceDetailsSheet::Export) {
-        // The generate sheet would open only to export at once, so go straight to the export,
+    const int code = sheet.exec();
+    if (code == EvoiceDetailsSheet::Export || code == EvoiceDetailsSheet::Mail) {
+        // The generate sheet would open only to export or send at once, so go straight on,
         // behind the same guard and the same rule check.
         const EinvoiceOptions options = einvoiceOptions(session_.settings());
         if (actions_.mayChangeCurrentInvoice() && actions_.mayExport(options)) {
-            actions_.exportEvoiceAction(options);
+            sendEinvoice(code == EvoiceDetailsSheet::Mail ? EvoiceGenerateSheet::Mail
+                                                          : EvoiceGenerateSheet::Export,
+                         options);
         }
+    }
+}
+
+void EinvoiceWindowActions::sendEinvoice(EvoiceGenerateSheet::Code how,
+                                         const EinvoiceOptions& options)
+{
+    if (how == EvoiceGenerateSheet::Mail && mailer_) {
+        mailer_(options);
+    } else if (how == EvoiceGenerateSheet::Export) {
+        actions_.exportEvoiceAction(options);
     }
 }
 

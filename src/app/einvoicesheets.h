@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -24,7 +25,7 @@ class EvoiceGenerateSheet : public QDialog {
     Q_OBJECT
 
 public:
-    enum Code { Cancelled = 0, Export = 1, Jump = 2 };
+    enum Code { Cancelled = 0, Export = 1, Jump = 2, Mail = 3 };
     EvoiceGenerateSheet(EinvoiceActions& actions, Settings& settings, QWidget* parent = nullptr);
 
     EinvoiceOptions options() const { return einvoiceOptions(settings_); }
@@ -39,10 +40,11 @@ public:
     QLineEdit* reasonField() const { return reason_; }
     EinvoiceFindingsView* findingsView() const { return view_; }
     QPushButton* exportButton() const { return export_; }
+    QPushButton* mailButton() const { return mail_; }
 
 private:
     void check();
-    void exportFile();
+    void exportFile(Code code);
 
     EinvoiceActions& actions_;
     Settings& settings_;
@@ -51,6 +53,7 @@ private:
     QLineEdit* reason_;
     EinvoiceFindingsView* view_;
     QPushButton* export_;
+    QPushButton* mail_;
     std::vector<Finding> findings_;
     EinvoiceField target_;
 };
@@ -61,7 +64,7 @@ class EvoiceDetailsSheet : public QDialog {
     Q_OBJECT
 
 public:
-    enum Code { Cancelled = 0, Closed = 1, Export = 2 };
+    enum Code { Cancelled = 0, Closed = 1, Export = 2, Mail = 3 };
     EvoiceDetailsSheet(EinvoiceActions& actions, const Record& invoice, QWidget* parent = nullptr);
 
     QLineEdit* field(const std::string& key) const { return fields_.at(key); }
@@ -87,14 +90,23 @@ public:
     // Opens the details sheet, with the field of `focusKey` focused when one is given.
     void openEnvoiceDetailsSheet(const char* focusKey = nullptr);
     void loadEvoiceAlertAction();
+    // What the sheets' mail button does with the chosen file (the dispatch's mail).
+    void setMailer(std::function<void(const EinvoiceOptions&)> mailer)
+    {
+        mailer_ = std::move(mailer);
+    }
 
 private:
+    // The sheets' two ways out, after the guard and the rule check.
+    void sendEinvoice(EvoiceGenerateSheet::Code how, const EinvoiceOptions& options);
+
     void updateActions();
 
     MainWindow& window_;
     AppSession& session_;
     EinvoiceActions actions_;
     QList<QAction*> documentActions_;
+    std::function<void(const EinvoiceOptions&)> mailer_;
 };
 
 // Adds the "Document" menu entries and the toolbar buttons of the e-invoice to the window.
