@@ -1,7 +1,9 @@
 #include "benchsupport.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -32,6 +34,38 @@ bool generateSampleProfile(const QString& folder)
              QStringLiteral("--clients"), QStringLiteral("300")});
     return p.waitForFinished(600'000) && p.exitStatus() == QProcess::NormalExit &&
            p.exitCode() == 0;
+}
+
+double processTreePssMiB(qint64 pid)
+{
+    // Parents from /proc/N/stat: "N (name) S PPID ..."; the name may hold spaces.
+    QHash<qint64, qint64> parents;
+    for (const QFileInfo& entry : QDir(QStringLiteral("/proc")).entryInfoList(QDir::Dirs)) {
+        bool number = false;
+        const qint64 child = entry.fileName().toLongLong(&number);
+        QFile stat(entry.filePath() + QStringLiteral("/stat"));
+        if (number && stat.open(QIODevice::ReadOnly)) {
+            const QByteArray text = stat.readAll();
+            const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
+            parents.insert(child, fields.value(1).toLongLong());
+        }
+    }
+    double total = 0;
+    for (auto it = parents.cbegin(); it != parents.cend(); ++it) {
+        qint64 p = it.key();
+        while (p > 1 && p != pid) {
+            p = parents.value(p, 0);
+        }
+        if (p != pid) {
+            continue;
+        }
+        QFile rollup(QStringLiteral("/proc/%1/smaps_rollup").arg(it.key()));
+        if (rollup.open(QIODevice::ReadOnly)) {
+            static const QRegularExpression pss(QStringLiteral("\\nPss:\\s+(\\d+) kB"));
+            total += pss.match(QString::fromLatin1(rollup.readAll())).captured(1).toDouble();
+        }
+    }
+    return total / 1024.0;
 }
 
 double peakResidentMiB()

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 #include <algorithm>
 #include <functional>
 #include <vector>
@@ -39,5 +40,8 @@ bool generateSampleProfile(const QString& folder);
 double peakResidentMiB();
 // Resident memory of this process now, in MiB.
 double residentMiB();
+// The proportional set size of a process and all its descendants (helper processes such as the
+// web engine's), in MiB: shared pages count once in the sum.
+double processTreePssMiB(qint64 pid);
 
 }  // namespace tamo::bench

@@ -116,11 +116,17 @@ std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs&
     }
     DesignLibrary designs(session);
     InvoiceHtml html(session, designs);
-    PdfRenderer pages(session.applicationDataDirectory());
-    PdfExportQueue queue(pages);
+    const auto& documents = session.documents().arranged();
+    std::vector<std::unique_ptr<PdfRenderer>> renderers;
+    std::vector<PdfRenderer*> workers;
+    for (int i = 0; i < batchRendererCount(qsizetype(documents.size())); ++i) {
+        renderers.push_back(std::make_unique<PdfRenderer>(session.applicationDataDirectory()));
+        workers.push_back(renderers.back().get());
+    }
+    PdfExportQueue queue(workers);
     const QPageLayout layout = pageLayoutFromSettings(session.settings());
     long number = 0;
-    for (const Record* document : session.documents().arranged()) {
+    for (const Record* document : documents) {
         queue.add({html.invoiceHTMLStringFromInvoice(*document),
                    batchExportPath(folder, *document, ++number), layout});
     }

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLoggingCategory>
 #include <QRegularExpression>
+#include <QThread>
 
 #include "interchange/plistfile.h"
 #include "model/appsession.h"
@@ -116,26 +117,49 @@ Result<void> PdfOutput::writePdf(const Record& document, const QString& path)
     return writeFileAtomically(path, *pdf);
 }
 
+PdfExportQueue::PdfExportQueue(std::vector<PdfRenderer*> renderers, QObject* parent)
+    : QObject(parent), renderers_(std::move(renderers)), busy_(renderers_.size(), false)
+{
+}
+
 void PdfExportQueue::add(ExporterItem item)
 {
-    const int index = int(items_.size());
     items_.push_back(std::move(item));
-    renderer_.render(
-        items_.back().source, items_.back().layout, [this, index](const Result<QByteArray>& pdf) {
-            ExporterItem& done = items_[size_t(index)];
-            qCDebug(lcPdf).noquote() << "self.destinationURL.path:" << done.destinationURL;
-            Result<void> written = pdf ? writeFileAtomically(done.destinationURL, *pdf)
-                                       : Result<void>(std::unexpected(pdf.error()));
-            done.completed = written.has_value();
-            if (!written) {
-                done.error = written.error();
-            }
-            ++finished_;
-            emit itemFinished(index);
-            if (isFinished()) {
-                emit finished();
-            }
-        });
+    startWaiting();
+}
+
+void PdfExportQueue::startWaiting()
+{
+    for (size_t worker = 0; worker < renderers_.size() && next_ < items_.size(); ++worker) {
+        if (busy_[worker]) {
+            continue;
+        }
+        busy_[worker] = true;
+        const size_t index = next_++;
+        const ExporterItem& item = items_[index];
+        renderers_[worker]->render(
+            item.source, item.layout,
+            [this, worker, index](const Result<QByteArray>& pdf) { written(worker, index, pdf); });
+    }
+}
+
+void PdfExportQueue::written(size_t worker, size_t index, const Result<QByteArray>& pdf)
+{
+    ExporterItem& done = items_[index];
+    qCDebug(lcPdf).noquote() << "self.destinationURL.path:" << done.destinationURL;
+    Result<void> written = pdf ? writeFileAtomically(done.destinationURL, *pdf)
+                               : Result<void>(std::unexpected(pdf.error()));
+    done.completed = written.has_value();
+    if (!written) {
+        done.error = written.error();
+    }
+    busy_[worker] = false;
+    ++finished_;
+    startWaiting();
+    emit itemFinished(int(index));
+    if (isFinished()) {
+        emit finished();
+    }
 }
 
 void PdfExportQueue::waitForFinished()
@@ -146,6 +170,12 @@ void PdfExportQueue::waitForFinished()
     QEventLoop loop;
     connect(this, &PdfExportQueue::finished, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+int batchRendererCount(qsizetype count)
+{
+    return int(std::clamp<qsizetype>(std::min<qsizetype>(QThread::idealThreadCount(), 2), 1,
+                                     std::max<qsizetype>(count, 1)));
 }
 
 QString batchExportPath(const QString& folder, const Record& document, long number)

@@ -69,17 +69,20 @@ struct ExporterItem {
     std::optional<Error> error{};
 };
 
-// A queue of exporter items that reuses one renderer and prints each page once it has loaded.
+// A queue of exporter items that prints each page once it has loaded, on one renderer or on
+// several at once (each has a page and an engine process of its own, so on a machine with more
+// than one core the pages print side by side). Items finish in any order.
 class PdfExportQueue : public QObject {
     Q_OBJECT
 
 public:
     explicit PdfExportQueue(PdfRenderer& renderer, QObject* parent = nullptr)
-        : QObject(parent), renderer_(renderer)
+        : PdfExportQueue(std::vector<PdfRenderer*>{&renderer}, parent)
     {
     }
+    explicit PdfExportQueue(std::vector<PdfRenderer*> renderers, QObject* parent = nullptr);
 
-    // Adds an item; it starts when the ones before it are done.
+    // Adds an item; it starts as soon as a renderer is free.
     void add(ExporterItem item);
     const std::vector<ExporterItem>& items() const { return items_; }
     bool isFinished() const { return finished_ == items_.size(); }
@@ -91,10 +94,19 @@ signals:
     void finished();
 
 private:
-    PdfRenderer& renderer_;
+    void startWaiting();
+    void written(size_t worker, size_t index, const Result<QByteArray>& pdf);
+
+    std::vector<PdfRenderer*> renderers_;
+    std::vector<bool> busy_;  // per renderer: an item of this queue is printing there
     std::vector<ExporterItem> items_;
+    size_t next_ = 0;  // the first item not yet handed to a renderer
     size_t finished_ = 0;
 };
+
+// How many renderers a batch of `count` pages should print on: one per core, at most two (each
+// engine process holds some 100 MiB), and never more than there are pages.
+int batchRendererCount(qsizetype count);
 
 // The file name of one document in a batch export: "FOLDER/NAME_N.pdf".
 QString batchExportPath(const QString& folder, const Record& document, long number);
