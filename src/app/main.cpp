@@ -28,7 +28,9 @@ int main(int argc, char** argv)
             if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
                 qputenv("QT_QPA_PLATFORM", "offscreen");
             }
-            tamo::prepareRendering();
+            tamo::prepareRendering(tamo::commandPrintsOneDocument(invocation.command.value(0))
+                                       ? tamo::EngineProcesses::Single
+                                       : tamo::EngineProcesses::Separate);
             application = std::make_unique<QGuiApplication>(argc, argv);
         } else {
             application = std::make_unique<QCoreApplication>(argc, argv);

@@ -82,6 +82,8 @@ std::optional<Failure> setClientCommand(AppSession&, const CommandArgs&, QTextSt
 // Pages, PDF files and designs (rendercommands.cpp). The commands that print pages need the web
 // engine, so `main` runs them in a GUI application off screen.
 bool commandRendersPages(const QString& command);
+// Those of them that print one document and end.
+bool commandPrintsOneDocument(const QString& command);
 std::optional<Failure> renderCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> exportPdfsCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> designsCommand(AppSession&, const CommandArgs&, QTextStream&);

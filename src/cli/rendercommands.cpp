@@ -43,6 +43,11 @@ bool commandRendersPages(const QString& command)
            command == u"mail";
 }
 
+bool commandPrintsOneDocument(const QString& command)
+{
+    return command == u"render" || command == u"print" || command == u"pdf" || command == u"mail";
+}
+
 std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& args, QTextStream& out)
 {
     const QString html = args.value(u"--html"_qs);

@@ -62,9 +62,12 @@ Error renderError(int code, QString message)
     return Error{QString::fromLatin1(kRenderDomain), code, std::move(message), {}};
 }
 
+bool singleProcess = false;
+int enginesStarted = 0;
+
 }  // namespace
 
-void prepareRendering()
+void prepareRendering(EngineProcesses processes)
 {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // Off screen there is no graphics context to share, which the engine reports at length
@@ -80,6 +83,10 @@ void prepareRendering()
     // filter.
     if (::geteuid() == 0 && !flags.contains("--no-sandbox")) {
         flags += " --no-sandbox";
+    }
+    singleProcess = processes == EngineProcesses::Single || flags.contains("--single-process");
+    if (singleProcess && !flags.contains("--single-process")) {
+        flags += " --single-process";
     }
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
 }
@@ -117,6 +124,7 @@ void PdfRenderer::resetPage()
     // The engine starts with the first page, not with the window or the command.
     if (!profile_) {
         // Off the record: nothing of what a design does is kept on disk.
+        ++enginesStarted;
         profile_ = std::make_unique<QWebEngineProfile>();
         interceptor_ = std::make_unique<LocalOnly>(localFolder_, nullptr);
         profile_->setUrlRequestInterceptor(static_cast<LocalOnly*>(interceptor_.get()));
@@ -182,6 +190,12 @@ void PdfRenderer::startNext()
     queue_.pop_front();
     ++generation_;
     if (!page_) {
+        if (singleProcess && !profile_ && enginesStarted > 0) {
+            finish(std::unexpected(renderError(
+                kRendererStopped, tr("The page renderer was stopped and cannot start again in "
+                                     "this process."))));
+            return;
+        }
         resetPage();
     }
     // Takes effect with the load below.

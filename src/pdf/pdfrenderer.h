@@ -27,9 +27,15 @@ enum RenderError {
     kPdfNotWritten,
 };
 
+// Where the web engine lays out and prints pages: in helper processes of its own (the window, and
+// commands that print many pages side by side), or inside this process (a command that prints one
+// document and ends: starting no helpers halves its time on a busy machine). In this process
+// there is only ever one engine, so a page stopped by the limits cannot be followed by another.
+enum class EngineProcesses { Separate, Single };
+
 // Call before the application object exists: the web engine shares the graphics contexts, and
 // the page may not open network connections of its own (WebRTC).
-void prepareRendering();
+void prepareRendering(EngineProcesses processes = EngineProcesses::Separate);
 
 // What one page given to the PdfRenderer may do.
 struct PdfPageOptions {

@@ -262,4 +262,19 @@ TEST_F(DispatchTest, TheCommandsSendTheDocumentOrSayWhyNot)
     }
 }
 
+TEST_F(DispatchTest, TheProgramPrintsOneDocumentWithTheEngineInsideAndEnds)
+{
+    session.saveContext();
+    const QString file = dir.path(u"program.pdf"_qs);
+    for (int run = 0; run < 2; ++run) {  // the second finds the engine's files of the first
+        QProcess tamo;
+        tamo.start(QStringLiteral(TAMO_PROGRAM), {u"--store"_qs, dir.profile().supportFolder,
+                                                  u"pdf"_qs, u"RE-2026-017"_qs, file});
+        ASSERT_TRUE(tamo.waitForFinished(120000));
+        EXPECT_EQ(tamo.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(tamo.exitCode(), 0) << tamo.readAllStandardError().toStdString();
+        EXPECT_TRUE(readWholeFile(file).value_or("").startsWith("%PDF"));
+    }
+}
+
 }  // namespace
