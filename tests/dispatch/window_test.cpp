@@ -1,11 +1,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include "app/appdelegate.h"
+#include "app/dialogprompter.h"
 #include "app/dispatchactions.h"
 #include "app/mainwindow.h"
 #include "app/previewpane.h"
@@ -83,6 +85,27 @@ TEST_F(DispatchWindowTest, PrintAndPdfGoThroughTheExportSheet)
     confirmSheet(file);
     window.action(u"pdfInvoice"_qs)->trigger();
     EXPECT_TRUE(readWholeFile(file).value_or("").startsWith("%PDF"));
+}
+
+TEST(DialogPrompterTest, ASavePanelShowsItsMessage)
+{
+    DialogPrompter prompter;
+    QTimer::singleShot(0, [] {
+        QFileDialog* panel = nullptr;
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] { return (panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())); },
+            10000));
+        auto* message = panel->findChild<QLabel*>(u"panelMessage"_qs);
+        ASSERT_NE(message, nullptr);
+        EXPECT_EQ(message->text(), u"Choose a location to save your E-Invoice XML file.");
+        EXPECT_TRUE(message->isVisible());
+        panel->reject();
+    });
+    FileRequest request;
+    request.title = u"Save E-Invoice XML File"_qs;
+    request.message = u"Choose a location to save your E-Invoice XML file."_qs;
+    request.extensions = {u"xml"_qs};
+    EXPECT_EQ(prompter.chooseFileToSave(request), std::nullopt);
 }
 
 }  // namespace
