@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
+#include <QUrl>
 
 #include "calc/totals.h"
 #include "cli/commands.h"
@@ -182,7 +183,8 @@ const CommandEntry kCommands[] = {
     {u"safety-copy [--at-start]", nullptr, true, safetyCopyCommand},
     {u"restore-safety-copy", nullptr, true, restoreSafetyCopyCommand},
     {u"recover [SNAPSHOT]", u"without SNAPSHOT: lists the recovery copies", false, recoverCommand},
-    {u"open FILE", nullptr, false, openFileCommand},
+    {u"open FILE", u"answers as when the desktop opens a file: a design is offered for import",
+     true, openFileCommand},
     {u"new-invoice", nullptr, true, newInvoiceCommand},
     {u"new-quote", nullptr, true, newQuoteCommand},
     {u"duplicate N [--with-items]", nullptr, true, duplicateCommand},
@@ -234,6 +236,11 @@ const CommandEntry kCommands[] = {
     {u"export-document N FILE [--xml]",
      u"document file that import-document reads (.tamo), or its XML property list", true,
      exportDocumentCommand},
+    {u"send-to ledrix|kelvane [--from DATE] [--to DATE] [--kind 0|1|2] [--items] [--no-open]",
+     u"the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or "
+     u".kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items "
+     u"keeps each invoice's lines instead of one summary; prints the file's path",
+     true, sendToCommand},
 };
 
 const CommandEntry* findCommand(const QString& name)
@@ -275,7 +282,10 @@ QString usage()
 {
     QString text = QStringLiteral(
         "usage: tamo [--store DIR] [--yes] [COMMAND ...]\n"
-        "  Without a command, opens the window. Options may stand anywhere; \"--\" ends them.\n"
+        "  Without a command, opens the window (or brings the one open on the store forward).\n"
+        "  Options may stand anywhere; \"--\" ends them.\n"
+        "  tamo [--store DIR] tamo://…  hands a request to the window, or answers it without one\n"
+        "  tamo [--store DIR] FILE      asks the window to open FILE, as the desktop does\n"
         "  --store DIR   keep store, settings and data files in DIR\n"
         "  --yes         answer questions with their default button\n"
         "  COMMAND --help, or tamo help COMMAND, tells more of one command.\n"
@@ -321,6 +331,16 @@ Invocation parseInvocation(const QStringList& arguments)
             inv.command << a;
         }
     }
+    // The desktop hands a file to open as the only argument, as a path or a file: URL.
+    if (inv.command.size() == 1 && inv.url.isEmpty() && !findCommand(inv.command[0]) &&
+        inv.command[0] != u"help") {
+        const QUrl url(inv.command[0]);
+        const QString path = url.isLocalFile() ? url.toLocalFile() : inv.command[0];
+        if (QFileInfo(path).isFile()) {
+            inv.file = QFileInfo(path).absoluteFilePath();
+            inv.command.clear();
+        }
+    }
     return inv;
 }
 
@@ -334,10 +354,8 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     if (!inv.error.isEmpty()) {
         return report(inv.error, kUsageError);
     }
-    // The desktop hands a file to open as the only argument: `tamo FILE` is `tamo open FILE`.
-    const bool file = inv.command.size() == 1 && QFileInfo(inv.command[0]).isFile();
-    const QString name = file ? u"open"_qs : inv.command.value(0);
-    const QStringList args = file ? inv.command : inv.command.mid(1);
+    const QString name = inv.command.value(0);
+    const QStringList args = inv.command.mid(1);
     if (name == u"help") {
         const QString help = commandHelp(args.value(0));
         out << (help.isEmpty() ? usage() : help);
@@ -358,6 +376,13 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         return report(words.error().message, words.error().code);
     }
 
+    return runOnSession(inv, out, err, command->needsStore,
+                        [&](AppSession& session) { return command->run(session, *words, out); });
+}
+
+int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, bool needsStore,
+                 const std::function<std::optional<Failure>(AppSession&)>& body)
+{
     const Profile profile = inv.storeDirectory.isEmpty() ? Profile::standard()
                                                          : Profile::inDirectory(inv.storeDirectory);
     Settings settings(profile.settingsFile);
@@ -369,7 +394,7 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     designs.installHooks();
     // Commands see the settings as the window does after its start-up steps.
     applyOneTimeUpdates(settings);
-    if (command->needsStore) {
+    if (needsStore) {
         Context* context = session.managedObjectContext();
         if (!context) {
             return 1;  // the prompter has said why
@@ -379,8 +404,12 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         WithoutUndo automatic(*context);
         Totals(session).calculateDatabase();
     }
-    if (auto failure = command->run(session, *words, out)) {
-        return report(failure->message, failure->code);
+    if (auto failure = body(session)) {
+        if (!failure->message.isEmpty()) {
+            err << "tamo: " << failure->message << '\n';
+            err.flush();
+        }
+        return failure->code;
     }
     out.flush();
     if (!session.saveContext()) {

@@ -2,9 +2,14 @@
 
 #include <QStringList>
 #include <QTextStream>
+#include <functional>
 #include <optional>
 
+#include "cli/commandargs.h"
+
 namespace tamo {
+
+class AppSession;
 
 // The arguments shared by the window and the commands: `tamo [--store DIR] [--yes] COMMAND ...`,
 // the two global options anywhere before "--".
@@ -13,6 +18,7 @@ struct Invocation {
     bool assumeYes = false;
     QStringList command;  // the command and its arguments; empty opens the window
     QString url;          // a tamo:// address handed to the application
+    QString file;         // a file the desktop asks to open (absolute)
     QString error;        // the arguments could not be understood
 };
 
@@ -21,6 +27,18 @@ Invocation parseInvocation(const QStringList& arguments);
 // Runs one command without a window and returns the process exit code. Output goes to `out`;
 // errors are one line on `err`.
 int runCommand(const Invocation& invocation, QTextStream& out, QTextStream& err);
+
+// Runs `body` on a session of the invocation's profile, as every command runs: the shipped designs
+// and the one-time updates as in the window, and with `needsStore` the store opened and the
+// statistics pass run. A failure is written to `err` (unless its message is empty: already said);
+// the session saves afterwards. Returns the process exit code.
+int runOnSession(const Invocation& invocation, QTextStream& out, QTextStream& err, bool needsStore,
+                 const std::function<std::optional<Failure>(AppSession&)>& body);
+
+// Answers a tamo:// URL without a window (none runs for the store): the import request writes its
+// PDFs and list, reporting progress on `out`, and calls Ledrix back. Returns the exit code once
+// the request is done.
+int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& err);
 
 QString usage();
 // The usage and note of one command; empty for an unknown command.

@@ -56,6 +56,9 @@ std::optional<Failure> moveFromFlatpakCommand(AppSession&, const CommandArgs&, Q
 std::optional<Failure> safetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> recoverCommand(AppSession&, const CommandArgs&, QTextStream&);
+
+// The accounting applications and the desktop's requests (accountingcommands.cpp).
+std::optional<Failure> sendToCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> openFileCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // The e-invoice (einvoicecommands.cpp).

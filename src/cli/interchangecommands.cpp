@@ -160,13 +160,4 @@ std::optional<Failure> recoverCommand(AppSession& session, const CommandArgs& ar
     return runWithFile(session, path, u"recover"_qs, &DataInterchange::recoverPreviousDatabase);
 }
 
-std::optional<Failure> openFileCommand(AppSession& session, const CommandArgs& args, QTextStream&)
-{
-    if (args.operandCount() != 1) {
-        return args.usage();
-    }
-    DataInterchange(session).openFile(args.operand(0));
-    return std::nullopt;
-}
-
 }  // namespace tamo

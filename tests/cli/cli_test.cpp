@@ -2,6 +2,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
+#include <QUrl>
 
 #include "cli/commandline.h"
 #include "support/commandrunner.h"
@@ -146,8 +147,9 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsReportedNotReplaced)
 
 namespace {
 
-// What the desktop does when a Tamo file is opened from the file manager.
-TEST(CommandLineOpenTest, AFileAsTheOnlyArgumentIsHandedToOpenAndImportsNothing)
+// What the desktop does when a Tamo file is opened from the file manager: the file goes to the
+// window (main hands it over, or starts one), which answers as `open` does.
+TEST(CommandLineOpenTest, AFileAsTheOnlyArgumentIsForTheWindowAndOpenImportsNothing)
 {
     TempProfile dir;
     const QString file = dir.path(u"Acme.invdump"_qs);
@@ -155,7 +157,16 @@ TEST(CommandLineOpenTest, AFileAsTheOnlyArgumentIsHandedToOpenAndImportsNothing)
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("not imported by a double click");
     f.close();
-    const CommandOutcome run = runTamo(dir.path(u"store"_qs), {file});
+    const QString url = QUrl::fromLocalFile(file).toString();
+    for (const QString& argument : {file, url}) {
+        const Invocation inv = parseInvocation({u"tamo"_qs, u"--store"_qs, u"/x"_qs, argument});
+        EXPECT_EQ(inv.file, file) << argument.toStdString();
+        EXPECT_TRUE(inv.command.isEmpty());
+    }
+    EXPECT_EQ(parseInvocation({u"tamo"_qs, u"list"_qs}).command, QStringList{u"list"_qs});
+    EXPECT_EQ(parseInvocation({u"tamo"_qs, u"tamo://userdefaults"_qs}).url, u"tamo://userdefaults");
+
+    const CommandOutcome run = runTamo(dir.path(u"store"_qs), {u"open"_qs, file});
     EXPECT_EQ(run.code, 0);
     EXPECT_TRUE(run.err.contains(u"please use the 'File Menu' to open documents"));
     EXPECT_EQ(runTamo(dir.path(u"store"_qs), {u"list"_qs}).out.count(u'\n'), 1);  // heading only
