@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "app/accountingactions.h"
 #include "app/dispatchactions.h"
 #include "app/editor/documenteditor.h"
 #include "app/einvoicesheets.h"
@@ -26,7 +27,9 @@ AppDelegate::AppDelegate(const Profile& profile)
     prompter_.setParentWindow(window_.get());
     AppSession::Hooks& hooks = session_.hooks();
     hooks.commitEditing = [this] { return window_->editor()->commitEditing(); };
-    hooks.relaunch = [] {
+    hooks.relaunch = [this] {
+        // The new process must not hand its start over to this one, which is ending.
+        listener_.close();
         // Start again on the moved store once this process has let go of the old one.
         QProcess::startDetached(QCoreApplication::applicationFilePath(),
                                 QCoreApplication::arguments().mid(1));
@@ -39,6 +42,7 @@ AppDelegate::AppDelegate(const Profile& profile)
     installDataMenu(*window_, interchange_);
     // Before the store opens: its set-up loads the shipped designs through these.
     RenderWindowActions* render = installRenderActions(*window_, session_);
+    accounting_ = installAccountingActions(*window_, session_, interchange_, render->designs());
     installEinvoiceActions(*window_, session_);
     installDispatchActions(*window_, session_, *render);
     installReportActions(*window_, session_);
@@ -49,6 +53,7 @@ AppDelegate::AppDelegate(const Profile& profile)
     window_->setCloseGuard([this] { return requestQuit(); });
     connect(&scheduler_, &NotificationScheduler::documentActivated, this,
             &AppDelegate::showNotifiedDocument);
+    connect(&listener_, &HandoffListener::received, this, &AppDelegate::answer);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -76,6 +81,18 @@ void AppDelegate::showNotifiedDocument(const QString& uniqueID)
     window_->raise();
     window_->activateWindow();
     operations_.lifecycle.filterForInvoice(uniqueID);
+}
+
+void AppDelegate::listen(const QString& socketName)
+{
+    if (auto listening = listener_.listen(socketName); !listening) {
+        qWarning().noquote() << listening.error().text();
+    }
+}
+
+void AppDelegate::answer(const QStringList& arguments)
+{
+    accounting_->answer(arguments);
 }
 
 bool AppDelegate::requestQuit()

@@ -9,11 +9,13 @@
 #include "interchange/datainterchange.h"
 #include "model/appsession.h"
 #include "platform/clock.h"
+#include "platform/handoff.h"
 #include "platform/notifications.h"
 #include "settings/settings.h"
 
 namespace tamo {
 
+class AccountingActions;
 class MainWindow;
 
 // Composes the application: the session of the core, the document operations with the due-date
@@ -35,6 +37,12 @@ public:
     // The quit steps; true when the application may end now.
     bool requestQuit();
 
+    // Listens for later `tamo` runs on the same store, which hand their URLs and files over.
+    void listen(const QString& socketName);
+    // Answers tamo:// URLs and files (absolute paths), as when they are handed over.
+    void answer(const QStringList& arguments);
+    AccountingActions& accounting() { return *accounting_; }
+
 private:
     // A click on a due-date notification: the window comes forward with that document alone.
     void showNotifiedDocument(const QString& uniqueID);
@@ -49,6 +57,8 @@ private:
     NotificationScheduler scheduler_{session_, notificationService_};
     DocumentOperations operations_{session_, &scheduler_};
     std::unique_ptr<MainWindow> window_;
+    AccountingActions* accounting_ = nullptr;
+    HandoffListener listener_;
 };
 
 }  // namespace tamo

@@ -34,10 +34,8 @@ QAction* addEntries(QMenu* menu, QAction* before, DataInterchange& operations,
 
 }  // namespace
 
-void installDataMenu(MainWindow& window, DataInterchange& operations)
+QAction* fileMenuInsertionPoint(QMenu* file)
 {
-    QMenu* file = window.menuBar()->actions().value(0)->menu();
-    // Everything goes above the separator that leads to Quit.
     QAction* before = nullptr;
     const QList<QAction*> actions = file->actions();
     for (qsizetype i = 0; i < actions.size(); ++i) {
@@ -45,6 +43,14 @@ void installDataMenu(MainWindow& window, DataInterchange& operations)
             before = i > 0 && actions[i - 1]->isSeparator() ? actions[i - 1] : actions[i];
         }
     }
+    return before;
+}
+
+void installDataMenu(MainWindow& window, DataInterchange& operations)
+{
+    QMenu* file = window.menuBar()->actions().value(0)->menu();
+    // Everything goes above the separator that leads to Quit.
+    QAction* before = fileMenuInsertionPoint(file);
 
     addEntries(file, before, operations,
                {{"Import Tamo Document…", &DataInterchange::importInvoice},

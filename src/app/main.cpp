@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QTextStream>
+#include <QTimer>
 #include <memory>
 
 #include "app/appdelegate.h"
@@ -9,8 +10,43 @@
 #include "app/mainwindow.h"
 #include "cli/commandline.h"
 #include "cli/commands.h"
+#include "model/storelocation.h"
 #include "pdf/pdfrenderer.h"
+#include "platform/handoff.h"
 #include "platform/profile.h"
+
+namespace {
+
+void nameApplication()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Tamo"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
+}
+
+// Printing pages takes the web engine, which needs a GUI application; off screen, as runs
+// without a window show none.
+std::unique_ptr<QCoreApplication> headlessApplication(bool rendersPages,
+                                                      tamo::EngineProcesses processes, int& argc,
+                                                      char** argv)
+{
+    if (!rendersPages) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    tamo::prepareRendering(processes);
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+// The socket of the window open on this invocation's store, if any.
+QString socketName(const tamo::Profile& profile)
+{
+    const tamo::Settings settings(profile.settingsFile);
+    return tamo::handoffSocketName(tamo::storeFolder(settings, profile));
+}
+
+}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -19,43 +55,58 @@ int main(int argc, char** argv)
         arguments << QString::fromLocal8Bit(argv[i]);
     }
     const tamo::Invocation invocation = tamo::parseInvocation(arguments);
+    const tamo::Profile profile = invocation.storeDirectory.isEmpty()
+                                      ? tamo::Profile::standard()
+                                      : tamo::Profile::inDirectory(invocation.storeDirectory);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
 
     if (!invocation.command.isEmpty() || !invocation.error.isEmpty()) {
-        // Printing pages takes the web engine, which needs a GUI application; off screen, as
-        // commands show no windows.
-        std::unique_ptr<QCoreApplication> application;
-        if (tamo::commandRendersPages(invocation.command.value(0))) {
-            if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-                qputenv("QT_QPA_PLATFORM", "offscreen");
-            }
-            tamo::prepareRendering(tamo::commandPrintsOneDocument(invocation.command.value(0))
-                                       ? tamo::EngineProcesses::Single
-                                       : tamo::EngineProcesses::Separate);
-            application = std::make_unique<QGuiApplication>(argc, argv);
-        } else {
-            application = std::make_unique<QCoreApplication>(argc, argv);
-        }
-        QCoreApplication::setApplicationName(QStringLiteral("Tamo"));
-        QCoreApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
-        QTextStream out(stdout);
-        QTextStream err(stderr);
+        const QString command = invocation.command.value(0);
+        const auto application = headlessApplication(tamo::commandRendersPages(command),
+                                                     tamo::commandPrintsOneDocument(command)
+                                                         ? tamo::EngineProcesses::Single
+                                                         : tamo::EngineProcesses::Separate,
+                                                     argc, argv);
+        nameApplication();
         return tamo::runCommand(invocation, out, err);
+    }
+
+    // A request goes to the window open on the store; without one it is answered here, headless.
+    if (!invocation.url.isEmpty()) {
+        // The import request prints many pages: in helper processes, so that a page stopped by
+        // the limits does not stop the others.
+        const auto application =
+            headlessApplication(true, tamo::EngineProcesses::Separate, argc, argv);
+        nameApplication();
+        if (tamo::handOff(socketName(profile), {invocation.url})) {
+            return 0;
+        }
+        return tamo::runUrlRequest(invocation, out, err);
     }
 
     tamo::prepareRendering();
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Tamo"));
+    nameApplication();
     QApplication::setApplicationDisplayName(QStringLiteral("Tamo"));
-    QApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
     QApplication::setDesktopFileName(QString::fromLatin1(tamo::kApplicationId));
+    // One window per store: a file, or nothing but "come to the front", goes to the open one.
+    const QString socket = socketName(profile);
+    const QStringList handed =
+        invocation.file.isEmpty() ? QStringList() : QStringList{invocation.file};
+    if (tamo::handOff(socket, handed)) {
+        return 0;
+    }
     // Without a desktop that names an icon theme, the toolbar still finds its icons.
     QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
 
-    const tamo::Profile profile = invocation.storeDirectory.isEmpty()
-                                      ? tamo::Profile::standard()
-                                      : tamo::Profile::inDirectory(invocation.storeDirectory);
     tamo::AppDelegate delegate(profile);
     QApplication::setWindowIcon(tamo::applicationIcon());
     delegate.start();
+    delegate.listen(socket);
+    if (!handed.isEmpty()) {
+        // Once the start-up steps are done and the window is up.
+        QTimer::singleShot(0, &delegate, [&delegate, handed] { delegate.answer(handed); });
+    }
     return QApplication::exec();
 }
