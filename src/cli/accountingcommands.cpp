@@ -1,6 +1,7 @@
 // The accounting applications and the desktop's requests on the command line: the send export,
 // opening a file, and a tamo:// URL answered without a window.
 
+#include <QCoreApplication>
 #include <QEventLoop>
 
 #include "accounting/externalrequests.h"
@@ -23,7 +24,9 @@ std::optional<Failure> sendToCommand(AppSession& session, const CommandArgs& arg
     bool kindOk = true;
     const int kind = args.value(u"--kind"_qs, u"0"_qs).toInt(&kindOk);
     if (!kindOk || kind < 0 || kind > 2) {
-        return args.usage(u"--kind is 0 (every sent invoice), 1 (paid) or 2 (overdue)"_qs);
+        return args.usage(QCoreApplication::translate(
+            "tamo::AccountingCommands",
+            "--kind is 0 (every sent invoice), 1 (paid) or 2 (overdue)"));
     }
     LedrixSend send(session);
     // As the sheet: it opens on every listed invoice, and its controls set the settings.
@@ -37,7 +40,9 @@ std::optional<Failure> sendToCommand(AppSession& session, const CommandArgs& arg
         }
         const auto date = dateFromString(args.value(option), part);
         if (!date) {
-            return args.usage(QStringLiteral("%1 needs a date such as 2026-03-01").arg(option));
+            return args.usage(QCoreApplication::translate("tamo::AccountingCommands",
+                                                          "%1 needs a date such as 2026-03-01")
+                                  .arg(option));
         }
         settings.set(*setting, *date);
     }
@@ -90,7 +95,10 @@ int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& e
         bool imported = false;
         QObject::connect(&import, &LedrixImport::started, [&out, &imported](int count) {
             imported = true;
-            out << QStringLiteral("Writing %1 PDFs for Ledrix…\n").arg(count);
+            out << QCoreApplication::translate("tamo::AccountingCommands",
+                                               "Writing %1 PDFs for Ledrix…")
+                       .arg(count)
+                << '\n';
             out.flush();
         });
         QObject::connect(&import, &LedrixImport::pdfFinished,
@@ -98,7 +106,11 @@ int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& e
                              out << QStringLiteral("[%1/%2] %3%4\n")
                                         .arg(done)
                                         .arg(count)
-                                        .arg(written ? QString() : u"not written: "_qs, path);
+                                        .arg(written
+                                                 ? QString()
+                                                 : QCoreApplication::translate(
+                                                       "tamo::AccountingCommands", "not written: "),
+                                             path);
                              out.flush();
                          });
         QEventLoop loop;
@@ -117,8 +129,10 @@ int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& e
             return std::optional(Failure{QString()});
         }
         if (imported) {
-            out << QStringLiteral("Wrote %1 and called Ledrix back.\n")
-                       .arg(import.importListPath());
+            out << QCoreApplication::translate("tamo::AccountingCommands",
+                                               "Wrote %1 and called Ledrix back.")
+                       .arg(import.importListPath())
+                << '\n';
         }
         return std::optional<Failure>();
     });

@@ -1,5 +1,6 @@
 #include "platform/desktopopener.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QProcess>
 #include <QTimer>
@@ -28,7 +29,9 @@ void openWithDesktop(const QString& target, OpenDone done, int patienceMs)
         [process, report, target](QProcess::ProcessError error) {
             if (error == QProcess::FailedToStart) {
                 report(fail(QString::fromLatin1(kOpenerDomain), 1,
-                            QStringLiteral("Unable to start xdg-open for %1.").arg(target),
+                            QCoreApplication::translate("tamo::DesktopOpener",
+                                                        "Unable to start xdg-open for %1.")
+                                .arg(target),
                             process->errorString()));
                 process->deleteLater();
             }
@@ -39,8 +42,12 @@ void openWithDesktop(const QString& target, OpenDone done, int patienceMs)
                              report({});
                          } else {
                              report(fail(QString::fromLatin1(kOpenerDomain), 2,
-                                         QStringLiteral("No application opened %1.").arg(target),
-                                         QStringLiteral("xdg-open ended with code %1.").arg(code)));
+                                         QCoreApplication::translate("tamo::DesktopOpener",
+                                                                     "No application opened %1.")
+                                             .arg(target),
+                                         QCoreApplication::translate("tamo::DesktopOpener",
+                                                                     "xdg-open ended with code %1.")
+                                             .arg(code)));
                          }
                          process->deleteLater();
                      });
