@@ -101,8 +101,14 @@ void LedrixImport::run(const QString& startText, const QString& endText, const Q
     const int selected = session_.settings().integer(key::selectedDesign);
     designs.selectDesign(0);
     InvoiceHtml html(session_, designs);
-    renderer_ = std::make_unique<PdfRenderer>(session_.applicationDataDirectory());
-    queue_ = std::make_unique<PdfExportQueue>(*renderer_);
+    // Side by side on a machine with more than one core.
+    renderers_.clear();
+    std::vector<PdfRenderer*> workers;
+    for (int i = 0; i < batchRendererCount(count); ++i) {
+        renderers_.push_back(std::make_unique<PdfRenderer>(session_.applicationDataDirectory()));
+        workers.push_back(renderers_.back().get());
+    }
+    queue_ = std::make_unique<PdfExportQueue>(workers);
     auto done = std::make_shared<int>(0);
     connect(queue_.get(), &PdfExportQueue::itemFinished, this, [this, done, count](int index) {
         const ExporterItem& item = queue_->items()[size_t(index)];
@@ -133,7 +139,9 @@ void LedrixImport::run(const QString& startText, const QString& endText, const Q
     if (auto written = writeImportList(invoices, paths); !written) {
         qCWarning(lcAccounting).noquote() << written.error().text();
         queue_->disconnect(this);
-        renderer_->cancelAll();
+        for (const auto& renderer : renderers_) {
+            renderer->cancelAll();
+        }
         failed(tr("Could not write the import list for Ledrix.") + u"\n\n"_qs +
                written.error().text());
     }

@@ -64,7 +64,7 @@ private:
 
     AppSession& session_;
     DesktopOpener opener_;
-    std::unique_ptr<PdfRenderer> renderer_;
+    std::vector<std::unique_ptr<PdfRenderer>> renderers_;
     std::unique_ptr<PdfExportQueue> queue_;
     bool running_ = false;
 };
