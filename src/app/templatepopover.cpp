@@ -1,6 +1,7 @@
 #include "app/templatepopover.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,16 +24,12 @@ TemplatePopover::TemplatePopover(DocumentTemplates& templates, Settings& setting
     // What "Save as Template" takes over; remembered in the settings.
     auto* include = new QGroupBox(tr("A new template takes over"), this);
     auto* boxes = new QHBoxLayout(include);
-    const std::pair<const SettingKey*, QString> parts[] = {
-        {&key::templateIncludeClient, tr("Client")},
-        {&key::templateIncludeTitle, tr("Title")},
-        {&key::templateIncludeItems, tr("Lines")},
-        {&key::templateIncludeShipping, tr("Shipping")},
-        {&key::templateIncludeDiscount, tr("Discount")}};
-    for (const auto& [k, text] : parts) {
-        auto* box = new QCheckBox(text, include);
-        box->setChecked(settings_.boolean(*k));
-        connect(box, &QCheckBox::toggled, this, [this, k = k](bool on) { settings_.set(*k, on); });
+    for (const TemplatePart& part : templateParts()) {
+        auto* box =
+            new QCheckBox(QCoreApplication::translate("DocumentTemplates", part.label), include);
+        box->setChecked(settings_.boolean(*part.include));
+        connect(box, &QCheckBox::toggled, this,
+                [this, k = part.include](bool on) { settings_.set(*k, on); });
         boxes->addWidget(box);
     }
 

@@ -86,7 +86,13 @@ void Numbering::raiseQuoteCounter() const
 
 QString previewInvoiceNumberString(const Settings& settings, const Clock& clock)
 {
-    return numberFromPattern(settings.string(key::invPattern), settings.integer(key::invCount) + 1,
+    return previewNumberString(settings, clock, key::invPattern, key::invCount);
+}
+
+QString previewNumberString(const Settings& settings, const Clock& clock, const SettingKey& pattern,
+                            const SettingKey& offset)
+{
+    return numberFromPattern(settings.string(pattern), settings.integer(offset) + 1,
                              clock.now().toLocalTime().date());
 }
 

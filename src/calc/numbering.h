@@ -35,8 +35,11 @@ private:
 // Fills a number pattern's %COUNT%, %YEAR%, %MONTH% and %DAY% without padding.
 QString numberFromPattern(QString pattern, int count, const QDate& today);
 
-// The invoice number the preferences show while the pattern is edited: no documents are counted.
+// The numbers the preferences show while a pattern is edited: the offset + 1, no documents are
+// counted.
 QString previewInvoiceNumberString(const Settings& settings, const Clock& clock);
+QString previewNumberString(const Settings& settings, const Clock& clock, const SettingKey& pattern,
+                            const SettingKey& offset);
 
 // `date` printed through the user's date pattern (prefsDatePattern), whose tokens %DAY%,
 // %MONTHSHORT%, %MONTHLONG%, %YEARSHORT% and %YEARLONG% become CLDR date-format fields; other

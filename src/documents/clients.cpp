@@ -34,6 +34,15 @@ const std::pair<const char*, QString ClientPanel::*> kBuyerFields[] = {
 const char* const kClientKeys[] = {"clientNumber", "emailAddress", "customerVATID", "customerTitle",
                                    "customerName"};
 
+void setUnlessEmpty(Record& document, const char* key, const QString& value)
+{
+    if (!value.isEmpty()) {
+        document.setValue(key, value);
+    }
+}
+
+}  // namespace
+
 QString customerName(int patternTag, const ClientPanel& panel)
 {
     const QChar blank = u' ';
@@ -50,15 +59,6 @@ QString customerName(int patternTag, const ClientPanel& panel)
         return panel.lastName;
     }
 }
-
-void setUnlessEmpty(Record& document, const char* key, const QString& value)
-{
-    if (!value.isEmpty()) {
-        document.setValue(key, value);
-    }
-}
-
-}  // namespace
 
 QString Clients::contactsLocation() const
 {

@@ -30,6 +30,10 @@ struct ClientPanel {
     QString lastName{};
 };
 
+// The client's name by `clientNamePatternTag`: 1 first and last name, 2 title and last name,
+// 3 title and first name, 4 title, first and last name, anything else the last name alone.
+QString customerName(int patternTag, const ClientPanel& panel);
+
 // A document's client: its data is copied into the document's client fields from a contact of
 // the address book or from a remembered client, and applied clients are remembered.
 class Clients {

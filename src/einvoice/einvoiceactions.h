@@ -42,6 +42,10 @@ struct Readiness {
 // the requirements notice mentions it.
 Readiness checkReadiness(const Record& invoice, const Settings& settings);
 
+// The twelve supplier settings the check needs, in its order, and those of them still empty.
+std::span<const SettingKey* const> supplierCheckKeys();
+std::vector<const SettingKey*> missingSupplierSettings(const Settings& settings);
+
 // A field of the e-invoice details sheet: an invoice attribute and its label.
 struct EvoiceField {
     const char* key;

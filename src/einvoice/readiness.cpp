@@ -38,6 +38,22 @@ constexpr size_t kCheckedFields = 9;
 
 }  // namespace
 
+std::span<const SettingKey* const> supplierCheckKeys()
+{
+    return kSupplierKeys;
+}
+
+std::vector<const SettingKey*> missingSupplierSettings(const Settings& settings)
+{
+    std::vector<const SettingKey*> missing;
+    for (const SettingKey* key : kSupplierKeys) {
+        if (settings.string(*key).isEmpty()) {
+            missing.push_back(key);
+        }
+    }
+    return missing;
+}
+
 Readiness checkReadiness(const Record& invoice, const Settings& settings)
 {
     using Step = Readiness::Step;
@@ -51,10 +67,8 @@ Readiness checkReadiness(const Record& invoice, const Settings& settings)
     if (!settings.boolean(key::beforeTaxesBool)) {
         return {Step::DiscountBeforeTaxes, {}};
     }
-    for (const SettingKey* key : kSupplierKeys) {
-        if (settings.string(*key).isEmpty()) {
-            return {Step::SupplierSetting, QString::fromLatin1(key->name)};
-        }
+    if (const auto missing = missingSupplierSettings(settings); !missing.empty()) {
+        return {Step::SupplierSetting, QString::fromLatin1(missing.front()->name)};
     }
     for (size_t i = 0; i < kCheckedFields; ++i) {
         // The store keeps these as text, so a number would already be its decimal text here.

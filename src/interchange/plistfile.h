@@ -4,8 +4,10 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <cstdlib>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "model/value.h"
 #include "platform/error.h"
@@ -61,6 +63,32 @@ plist_t plistFromValue(const Value& value);
 std::optional<Value> valueFromPlist(plist_t node);
 
 QString plistString(plist_t node);
+
+// Calls `f(key, node)` for each entry of a dictionary node in its order, until `f` fails.
+template <typename F>
+Result<void> forEachDictionaryEntry(plist_t dictionary, F&& f)
+{
+    plist_dict_iter it = nullptr;
+    plist_dict_new_iter(dictionary, &it);
+    Result<void> result;
+    for (;;) {
+        char* key = nullptr;
+        plist_t node = nullptr;
+        plist_dict_next_item(dictionary, it, &key, &node);
+        if (!node) {
+            std::free(key);
+            break;
+        }
+        result = f(std::string_view(key ? key : ""), node);
+        std::free(key);
+        if (!result) {
+            break;
+        }
+    }
+    std::free(it);
+    return result;
+}
+
 // A short English name of the node's kind for messages ("text", "a list", ...).
 QString plistKindName(plist_t node);
 

@@ -45,30 +45,6 @@ QString typeName(AttributeType type)
     return {};
 }
 
-template <typename F>
-Result<void> forEachEntry(plist_t dictionary, F&& f)
-{
-    plist_dict_iter it = nullptr;
-    plist_dict_new_iter(dictionary, &it);
-    Result<void> result;
-    for (;;) {
-        char* key = nullptr;
-        plist_t node = nullptr;
-        plist_dict_next_item(dictionary, it, &key, &node);
-        if (!node) {
-            std::free(key);
-            break;
-        }
-        result = f(std::string_view(key ? key : ""), node);
-        std::free(key);
-        if (!result) {
-            break;
-        }
-    }
-    std::free(it);
-    return result;
-}
-
 Result<Value> attributeValue(plist_t node, std::string_view key, AttributeType type)
 {
     if (type == AttributeType::String && plist_get_node_type(node) == PLIST_STRING) {
@@ -120,36 +96,37 @@ public:
         if (depth > kMaxDepth) {
             return std::unexpected(dictionaryError(QStringLiteral("the records nest too deeply")));
         }
-        return forEachEntry(dictionary, [&](std::string_view key, plist_t node) -> Result<void> {
-            if (key == "class") {
-                return {};
-            }
-            std::string_view attributeKey = key;
-            if (key.starts_with(kDateKeyPrefix)) {
-                attributeKey = key.substr(kDateKeyPrefix.size());
-            }
-            if (const int a = entity.attributeIndex(attributeKey); a >= 0) {
-                const AttributeType type = entity.attributes()[size_t(a)].type;
-                if (!record && type == AttributeType::String &&
-                    plist_get_node_type(node) == PLIST_STRING) {
-                    return {};  // text always fits a text attribute
+        return forEachDictionaryEntry(
+            dictionary, [&](std::string_view key, plist_t node) -> Result<void> {
+                if (key == "class") {
+                    return {};
                 }
-                auto value = attributeValue(node, key, type);
-                if (!value) {
-                    return std::unexpected(value.error());
+                std::string_view attributeKey = key;
+                if (key.starts_with(kDateKeyPrefix)) {
+                    attributeKey = key.substr(kDateKeyPrefix.size());
                 }
-                if (record) {
-                    record->setValueAt(a, *value);
+                if (const int a = entity.attributeIndex(attributeKey); a >= 0) {
+                    const AttributeType type = entity.attributes()[size_t(a)].type;
+                    if (!record && type == AttributeType::String &&
+                        plist_get_node_type(node) == PLIST_STRING) {
+                        return {};  // text always fits a text attribute
+                    }
+                    auto value = attributeValue(node, key, type);
+                    if (!value) {
+                        return std::unexpected(value.error());
+                    }
+                    if (record) {
+                        record->setValueAt(a, *value);
+                    }
+                    return {};
                 }
-                return {};
-            }
-            if (const int r = entity.relationshipIndex(key); r >= 0 && key == attributeKey) {
-                return relate(entity.relationships()[size_t(r)], record, node, depth);
-            }
-            return std::unexpected(
-                dictionaryError(QStringLiteral("a record of kind %1 has no entry “%2”")
-                                    .arg(entity.qName(), qs(key))));
-        });
+                if (const int r = entity.relationshipIndex(key); r >= 0 && key == attributeKey) {
+                    return relate(entity.relationships()[size_t(r)], record, node, depth);
+                }
+                return std::unexpected(
+                    dictionaryError(QStringLiteral("a record of kind %1 has no entry “%2”")
+                                        .arg(entity.qName(), qs(key))));
+            });
     }
 
 private:

@@ -43,7 +43,20 @@ std::vector<Record*> clones(const std::vector<Record*>& lines)
     return copies;
 }
 
+constexpr TemplatePart kParts[] = {
+    {&key::templateIncludeClient, QT_TRANSLATE_NOOP("DocumentTemplates", "Client")},
+    {&key::templateIncludeTitle, QT_TRANSLATE_NOOP("DocumentTemplates", "Title")},
+    {&key::templateIncludeItems, QT_TRANSLATE_NOOP("DocumentTemplates", "Lines")},
+    {&key::templateIncludeShipping, QT_TRANSLATE_NOOP("DocumentTemplates", "Shipping")},
+    {&key::templateIncludeDiscount, QT_TRANSLATE_NOOP("DocumentTemplates", "Discount")},
+};
+
 }  // namespace
+
+std::span<const TemplatePart> templateParts()
+{
+    return kParts;
+}
 
 std::vector<Record*> DocumentTemplates::templates() const
 {

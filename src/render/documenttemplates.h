@@ -2,11 +2,20 @@
 
 #include <QObject>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "model/appsession.h"
 
 namespace tamo {
+
+// What a new template can take over from its document, each part chosen by its setting; the
+// label is English, for QCoreApplication::translate("DocumentTemplates", label).
+struct TemplatePart {
+    const SettingKey* include;
+    const char* label;
+};
+std::span<const TemplatePart> templateParts();
 
 // Document templates: saved sets of document fields (client, title, lines, shipping, discount,
 // texts) from which the current document is filled. What a new template takes over follows the

@@ -75,6 +75,14 @@ void Settings::set(const SettingKey& key, const QVariant& value)
     store_.sync();
 }
 
+void Settings::set(std::span<const SettingValue> values)
+{
+    for (const SettingValue& v : values) {
+        store_.setValue(name(*v.key), v.value);
+    }
+    store_.sync();
+}
+
 void Settings::remove(const SettingKey& key)
 {
     store_.remove(name(key));

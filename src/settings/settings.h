@@ -4,10 +4,16 @@
 #include <QSettings>
 #include <QString>
 #include <QVariant>
+#include <span>
 
 #include "settings/settingkeys.h"
 
 namespace tamo {
+
+struct SettingValue {
+    const SettingKey* key;
+    QVariant value;
+};
 
 // The user's flat key/value settings. Values are read at the moment of use and never kept
 // elsewhere; a key that is absent reads as empty, false or 0. Writes reach the file at once.
@@ -26,6 +32,8 @@ public:
     QDateTime date(const SettingKey& key) const;
 
     void set(const SettingKey& key, const QVariant& value);
+    // Many values at once, the file written once at the end.
+    void set(std::span<const SettingValue> values);
     void remove(const SettingKey& key);
 
     // Converts text to the key's type; nullopt when the text is not a value of that type.
