@@ -82,31 +82,6 @@ void printDocumentList(AppSession& session, bool json, QTextStream& out)
     }
 }
 
-std::optional<Failure> settingsCommand(AppSession& session, const CommandArgs& args,
-                                       QTextStream& out)
-{
-    const QString verb = args.operand(0);
-    const qsizetype count = args.operandCount();
-    if (!((verb == u"get" && count == 2) || (verb == u"set" && count == 3))) {
-        return args.usage();
-    }
-    const SettingKey* key = findSettingKey(args.operand(1).toStdString());
-    if (!key) {
-        return Failure{QStringLiteral("there is no setting named %1").arg(args.operand(1))};
-    }
-    if (verb == u"get") {
-        out << Settings::toText(session.settings().value(*key)) << '\n';
-        return std::nullopt;
-    }
-    const auto value = Settings::fromText(*key, args.operand(2));
-    if (!value) {
-        return Failure{
-            QStringLiteral("%1 is not a valid value for %2").arg(args.operand(2), args.operand(1))};
-    }
-    session.settings().set(*key, *value);
-    return std::nullopt;
-}
-
 std::optional<Failure> generateSampleCommand(AppSession& session, const CommandArgs& args,
                                              QTextStream& out)
 {
@@ -162,7 +137,12 @@ struct CommandEntry {
 
 const CommandEntry kCommands[] = {
     {u"list [--json]", u"the listed documents, newest first", true, listCommand},
-    {u"settings get KEY | set KEY VALUE", nullptr, false, settingsCommand},
+    {u"settings get KEY | set KEY VALUE | set prefsLogo --file IMAGE | list [--changed]",
+     u"list --changed: what differs from the starting values of the language set up", false,
+     settingsCommand},
+    {u"setup --language en|de|fr|es",
+     u"the starting values of a language, as the setup assistant's first page applies them", true,
+     setupCommand},
     {u"generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]", nullptr,
      true, generateSampleCommand},
     {u"recalc", u"recalculates every document and prints the sums", true, recalcCommand},
@@ -180,6 +160,9 @@ const CommandEntry kCommands[] = {
     {u"export-raw FILE", u"a raw store copy, .sqlite", true, exportRawCommand},
     {u"import-raw FILE", nullptr, true, importRawCommand},
     {u"move-from-flatpak", nullptr, false, moveFromFlatpakCommand},
+    {u"move-store (DIR | --default) [--backup FILE]",
+     u"a complete backup (default: the documents folder), then the store moves to DIR", true,
+     moveStoreCommand},
     {u"safety-copy [--at-start]", nullptr, true, safetyCopyCommand},
     {u"restore-safety-copy", nullptr, true, restoreSafetyCopyCommand},
     {u"recover [SNAPSHOT]", u"without SNAPSHOT: lists the recovery copies", false, recoverCommand},

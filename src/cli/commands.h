@@ -30,8 +30,10 @@ using Command = std::optional<Failure> (*)(AppSession& session, const CommandArg
 // The arranged list as a table, or as JSON for scripts.
 void printDocumentList(AppSession& session, bool json, QTextStream& out);
 std::optional<Failure> listCommand(AppSession& session, const CommandArgs& args, QTextStream& out);
+// Settings and setup (settingscommands.cpp).
 std::optional<Failure> settingsCommand(AppSession& session, const CommandArgs& args,
                                        QTextStream& out);
+std::optional<Failure> setupCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> generateSampleCommand(AppSession& session, const CommandArgs& args,
                                              QTextStream& out);
 std::optional<Failure> recalcCommand(AppSession& session, const CommandArgs& args,
@@ -53,6 +55,7 @@ std::optional<Failure> importDocumentCommand(AppSession&, const CommandArgs&, QT
 std::optional<Failure> exportRawCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> importRawCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> moveFromFlatpakCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> moveStoreCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> safetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> restoreSafetyCopyCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> recoverCommand(AppSession&, const CommandArgs&, QTextStream&);

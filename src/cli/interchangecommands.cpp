@@ -7,6 +7,7 @@
 #include "cli/argumentprompter.h"
 #include "cli/commands.h"
 #include "interchange/datainterchange.h"
+#include "setup/storemove.h"
 
 namespace tamo {
 
@@ -158,6 +159,45 @@ std::optional<Failure> recoverCommand(AppSession& session, const CommandArgs& ar
         path = QDir(session.profile().recoveryFolder).filePath(path);
     }
     return runWithFile(session, path, u"recover"_qs, &DataInterchange::recoverPreviousDatabase);
+}
+
+std::optional<Failure> moveStoreCommand(AppSession& session, const CommandArgs& args,
+                                        QTextStream& out)
+{
+    const bool toDefault = args.has(u"--default"_qs);
+    if (args.operandCount() != (toDefault ? 0 : 1)) {
+        return args.usage();
+    }
+    const QString today = session.clock().now().toLocalTime().date().toString(Qt::ISODate);
+    const QString backup = args.value(
+        u"--backup"_qs, QDir(session.profile().documentsFolder)
+                            .filePath(QStringLiteral("E-Tamo Database %1.tamo2db").arg(today)));
+    // What the complete backup keeps: the name with its own extension.
+    const QFileInfo info(backup);
+    const QString kept = info.absoluteDir().filePath(info.completeBaseName() + u".tamo2db"_qs);
+    QDir().mkpath(info.absolutePath());
+    ArgumentPrompter prompter(session.prompter(), backup);
+    DataInterchange operations(session, prompter);
+    session.hooks().completeBackup = [&] {
+        return operations.backupCompleteTamoData() == ActionResult::Done;
+    };
+    StoreMover mover(session);
+    switch (mover.moveTo(toDefault ? QString() : args.operand(0))) {
+    case StoreMove::Moved:
+        out << QStringLiteral(
+                   "Backed up the database to %1.\nMoved the store to %2; Tamo opens it "
+                   "there from now on.\n")
+                   .arg(kept, mover.currentFolder());
+        return std::nullopt;
+    case StoreMove::AlreadyThere:
+        out << QStringLiteral("The store is already in %1.\n").arg(mover.currentFolder());
+        return std::nullopt;
+    case StoreMove::Cancelled:
+        return outcome(ActionResult::Cancelled, u"move-store"_qs);
+    case StoreMove::Failed:
+        break;
+    }
+    return Failure{QStringLiteral("move-store: the store stays in %1").arg(mover.currentFolder())};
 }
 
 }  // namespace tamo
