@@ -13,6 +13,8 @@
 #include "app/filemenu.h"
 #include "app/helpmenu.h"
 #include "app/mainwindow.h"
+#include "app/preferences/preferencesactions.h"
+#include "app/preferences/setupassistantsheet.h"
 #include "app/renderactions.h"
 #include "app/reportswindow.h"
 
@@ -30,10 +32,13 @@ AppDelegate::AppDelegate(const Profile& profile)
     hooks.relaunch = [this] {
         // The new process must not hand its start over to this one, which is ending.
         listener_.close();
-        // Start again on the moved store once this process has let go of the old one.
-        QProcess::startDetached(QCoreApplication::applicationFilePath(),
-                                QCoreApplication::arguments().mid(1));
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        // Quit as the window does (the run ends in order), and start again on the moved store
+        // once this process lets go of the old one.
+        connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] {
+            QProcess::startDetached(QCoreApplication::applicationFilePath(),
+                                    QCoreApplication::arguments().mid(1));
+        });
+        QTimer::singleShot(0, window_.get(), &QWidget::close);
     };
     hooks.completeBackup = [this] {
         return interchange_.backupCompleteTamoData() == ActionResult::Done;
@@ -46,9 +51,21 @@ AppDelegate::AppDelegate(const Profile& profile)
     installEinvoiceActions(*window_, session_);
     installDispatchActions(*window_, session_, *render);
     installReportActions(*window_, session_);
-    // Once the event loop runs, so that the notice appears over the finished window.
+    preferences_ = new PreferencesActions(*window_, session_, render->designs(), interchange_);
+    // Once the event loop runs, so that the sheet appears over the finished window.
+    hooks.showSetupAssistant = [this] {
+        QTimer::singleShot(0, preferences_, &PreferencesActions::doTheAssi);
+    };
+    // After the assistant, if it is showing: one sheet at a time.
     hooks.showEinvoiceNotice = [this] {
-        QTimer::singleShot(0, window_.get(), [this] { showEinvoiceNotice(window_.get()); });
+        QTimer::singleShot(0, window_.get(), [this] {
+            if (SetupAssistantSheet* sheet = preferences_->assistantSheet()) {
+                connect(sheet, &QDialog::finished, window_.get(),
+                        [this] { showEinvoiceNotice(window_.get()); });
+            } else {
+                showEinvoiceNotice(window_.get());
+            }
+        });
     };
     window_->setCloseGuard([this] { return requestQuit(); });
     connect(&scheduler_, &NotificationScheduler::documentActivated, this,

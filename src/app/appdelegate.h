@@ -17,6 +17,7 @@ namespace tamo {
 
 class AccountingActions;
 class MainWindow;
+class PreferencesActions;
 
 // Composes the application: the session of the core, the document operations with the due-date
 // notifications, the window over them, and the hooks through which the core reaches the
@@ -31,6 +32,7 @@ public:
     AppSession& session() { return session_; }
     MainWindow& window() { return *window_; }
     DocumentOperations& operations() { return operations_; }
+    PreferencesActions& preferences() { return *preferences_; }
 
     // Opens the store and the window and runs the start-up steps.
     void start();
@@ -59,6 +61,7 @@ private:
     std::unique_ptr<MainWindow> window_;
     AccountingActions* accounting_ = nullptr;
     HandoffListener listener_;
+    PreferencesActions* preferences_ = nullptr;  // owned by the window
 };
 
 }  // namespace tamo

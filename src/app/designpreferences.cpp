@@ -1,6 +1,5 @@
 #include "app/designpreferences.h"
 
-#include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -238,27 +237,6 @@ void DesignPane::showPreview(const QByteArray& pdf)
     if (writeFileAtomically(path, pdf)) {
         preview_->showFile(path);
     }
-}
-
-PreferencesDialog::PreferencesDialog(AppSession& session, DesignLibrary& designs, QWidget* parent)
-    : QDialog(parent), designs_(new DesignPane(session, designs, this))
-{
-    setWindowTitle(tr("Preferences"));
-    auto* panes = new QTabWidget(this);
-    panes->setObjectName(QStringLiteral("preferencePanes"));
-    panes->addTab(designs_, tr("Designs"));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(panes, 1);
-    layout->addWidget(buttons);
-    resize(1100, 760);
-}
-
-void PreferencesDialog::done(int code)
-{
-    designs_->commitEdits();
-    QDialog::done(code);
 }
 
 }  // namespace tamo

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDialog>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWidget>
 #include <memory>
 
 #include "pdf/pdfrenderer.h"
@@ -56,19 +56,6 @@ private:
     std::unique_ptr<Context> sampleStore_;
     Record* sample_ = nullptr;
     std::unique_ptr<PdfRenderer> renderer_;
-};
-
-// The preferences. Other areas add their panes beside the Designs pane.
-class PreferencesDialog : public QDialog {
-    Q_OBJECT
-
-public:
-    PreferencesDialog(AppSession& session, DesignLibrary& designs, QWidget* parent = nullptr);
-    DesignPane* designPane() const { return designs_; }
-    void done(int code) override;
-
-private:
-    DesignPane* designs_;
 };
 
 }  // namespace tamo

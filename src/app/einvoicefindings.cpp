@@ -128,8 +128,9 @@ bool showEinvoiceField(MainWindow& window, AppSession& session, const EinvoiceFi
         }
         return false;
     case EinvoiceField::Kind::Setting:
-        // The preferences open where the window offers them; the pane is the user's to pick.
+        // The preferences open on the setting's field.
         if (QAction* preferences = window.action(QStringLiteral("preferences"))) {
+            preferences->setData(QString::fromLatin1(field.key));
             preferences->trigger();
             return true;
         }

@@ -8,7 +8,6 @@
 #include <QPushButton>
 
 #include "app/designchooser.h"
-#include "app/designpreferences.h"
 #include "app/mainwindow.h"
 #include "app/previewpane.h"
 #include "app/sheets.h"
@@ -89,20 +88,6 @@ void RenderWindowActions::addActions()
     add(document, tr("Refresh Pre&view"), "refreshPreview", QKeySequence(Qt::Key_F5),
         [this] { generatePreview(); });
     document->addAction(dock_->toggleViewAction());
-
-    // The preferences go where the desktop expects them: the Edit menu.
-    QMenu* edit = nullptr;
-    if (QAction* undo = window_.action(QStringLiteral("undo"))) {
-        for (QObject* o : undo->associatedObjects()) {
-            edit = edit ? edit : qobject_cast<QMenu*>(o);
-        }
-    }
-    if (edit) {
-        edit->addSeparator();
-        QAction* preferences = add(edit, tr("&Preferences…"), "preferences",
-                                   QKeySequence::Preferences, [this] { showPreferences(); });
-        preferences->setMenuRole(QAction::PreferencesRole);
-    }
 }
 
 void RenderWindowActions::generatePreview()
@@ -135,12 +120,6 @@ void RenderWindowActions::showTemplatePopover()
     }
     TemplatePopover popover(templates_, session_.settings(), &window_);
     popover.exec();
-}
-
-void RenderWindowActions::showPreferences()
-{
-    PreferencesDialog dialog(session_, designs_, &window_);
-    dialog.exec();
 }
 
 RenderWindowActions* installRenderActions(MainWindow& window, AppSession& session)

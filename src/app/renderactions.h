@@ -18,8 +18,8 @@ class MainWindow;
 class PreviewPane;
 
 // The rendering in the window: the preview beside the editor, refreshed after each change; the
-// design chooser; the document templates; the reminder and delivery-slip previews; and the
-// Designs pane of the preferences. Created before the store opens, so that the store set-up
+// design chooser; the document templates; and the reminder and delivery-slip previews. Created
+// before the store opens, so that the store set-up
 // loads the shipped designs through it.
 class RenderWindowActions : public QObject {
     Q_OBJECT
@@ -41,7 +41,6 @@ public:
     void generateSlip(const SheetTexts& texts);
     void showTemplateSheet();
     void showTemplatePopover();
-    void showPreferences();
 
 private:
     void addActions();
@@ -59,7 +58,7 @@ private:
     PreviewPane* pane_;
 };
 
-// Adds the preview, the design and template actions and the preferences to the window.
+// Adds the preview and the design and template actions to the window.
 RenderWindowActions* installRenderActions(MainWindow& window, AppSession& session);
 
 }  // namespace tamo

@@ -15,6 +15,7 @@
 #include "app/designchooser.h"
 #include "app/designpreferences.h"
 #include "app/mainwindow.h"
+#include "app/preferences/preferencepanel.h"
 #include "app/previewpane.h"
 #include "app/renderactions.h"
 #include "app/sheets.h"
@@ -103,7 +104,8 @@ TEST_F(RenderWindowTest, TheChooserAndThePreferencesWorkOnTheDesigns)
     chooser.closeTemplateSheet(false);  // Cancel goes back
     EXPECT_EQ(actions().designs().selectedIndex(), 0);
 
-    PreferencesDialog preferences(delegate.session(), actions().designs(), &window);
+    DataInterchange interchange(delegate.session());
+    ZPPreferencePanel preferences(delegate.session(), actions().designs(), interchange, &window);
     DesignPane* pane = preferences.designPane();
     EXPECT_EQ(pane->list()->count(), 13);
     pane->list()->setCurrentRow(2);
