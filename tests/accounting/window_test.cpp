@@ -28,6 +28,7 @@ protected:
         QDir().mkpath(dir.profile().supportFolder);
         Settings settings(dir.profile().settingsFile);
         settings.set(key::loadEvoiceAlert_0_1, true);
+        settings.set(key::isAssiDone, true);  // a business already set up: no assistant
         auto context = openContext(dir.storePath());
         for (const auto& [number, day, status] :
              {std::tuple{u"R-1"_qs, 1, 1}, std::tuple{u"R-2"_qs, 2, 2}, std::tuple{u"R-3"_qs, 3, 3},
