@@ -156,9 +156,18 @@ void PdfRenderer::dropEngine()
     // The engine cannot be told to stop printing. Pages of one profile share a renderer
     // process, which would finish the stopped work before the next page; a new profile gets a
     // process of its own, and the old one ends with its last page.
-    page_.reset();
-    profile_.reset();
-    interceptor_.reset();
+    // Deleted from the event loop, page before profile: deleting them while the engine is still
+    // printing into the page aborts the whole process now and then.
+    if (page_) {
+        page_->disconnect(this);
+        page_.release()->deleteLater();
+    }
+    if (profile_) {
+        profile_.release()->deleteLater();
+    }
+    if (interceptor_) {
+        interceptor_.release()->deleteLater();
+    }
 }
 
 void PdfRenderer::render(const QString& html, const QPageLayout& layout, Done done,
