@@ -13,6 +13,7 @@
 #include <QWebEngineUrlRequestInterceptor>
 
 #include <unistd.h>
+#include <csignal>
 
 Q_LOGGING_CATEGORY(lcPdf, "tamo.pdf", QtInfoMsg)
 
@@ -153,6 +154,15 @@ void PdfRenderer::resetPage()
 
 void PdfRenderer::dropEngine()
 {
+    // A page that is still laying out would go on using a core and memory for as long as its
+    // layout runs; its renderer process is ended at once. (Never this process, which is the
+    // renderer itself when the engine runs inside it.)
+    if (page_) {
+        const qint64 pid = page_->renderProcessPid();
+        if (pid > 0 && pid != QCoreApplication::applicationPid()) {
+            ::kill(pid_t(pid), SIGKILL);
+        }
+    }
     // The engine cannot be told to stop printing. Pages of one profile share a renderer
     // process, which would finish the stopped work before the next page; a new profile gets a
     // process of its own, and the old one ends with its last page.
