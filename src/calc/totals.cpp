@@ -6,6 +6,7 @@
 
 #include "calc/rounding.h"
 #include "model/record.h"
+#include "model/taxkeys.h"
 
 // The calculators name their steps at debug level (QT_LOGGING_RULES="tamo.calc.debug=true").
 Q_LOGGING_CATEGORY(lcTotals, "tamo.calc", QtInfoMsg)
@@ -15,24 +16,6 @@ namespace tamo {
 namespace {
 
 enum class Calculator { WithoutTaxes, Standard, Compound };
-
-// Per tax 1..3, the keys of a document or a line that belong to it.
-struct TaxKeys {
-    const char* applied;   // line
-    const char* compound;  // line; tax 1 is never compound
-    const char* shipping;  // document
-    const char* percent;   // both
-    const char* amount;    // both
-    const char* taxable;   // document
-};
-constexpr std::array<TaxKeys, 3> kTaxes{{
-    {"isTax1Applied", nullptr, "isShippingTax1Enabled", "tax1Percent", "tax1Amount",
-     "tax1TaxableAmount"},
-    {"isTax2Applied", "isTax2Compound", "isShippingTax2Enabled", "tax2Percent", "tax2Amount",
-     "tax2TaxableAmount"},
-    {"isTax3Applied", "isTax3Compound", "isShippingTax3Enabled", "tax3Percent", "tax3Amount",
-     "tax3TaxableAmount"},
-}};
 
 using Taxes = std::array<double, 3>;
 

@@ -2,9 +2,11 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <array>
 
 #include "calc/totals.h"
 #include "documents/lifecycle.h"
+#include "model/taxkeys.h"
 
 namespace tamo {
 
@@ -15,27 +17,9 @@ QString tr(const char* text)
     return QCoreApplication::translate("LineItems", text);
 }
 
-// The taxes as numbered attributes and settings, so that the three are handled alike.
-struct TaxKeys {
-    bool LineFields::*box;
-    const char* applied;
-    const char* percent;
-    const char* title;
-    const SettingKey* enabled;
-    const SettingKey* rate;
-    const SettingKey* titleSetting;
-    const char* compound = nullptr;  // tax 1 is never compound
-    const SettingKey* isCompound = nullptr;
-};
-
-const TaxKeys kTaxes[] = {
-    {&LineFields::tax1, "isTax1Applied", "tax1Percent", "tax1Title", &key::tax1Enabled,
-     &key::tax1Rate, &key::tax1Title},
-    {&LineFields::tax2, "isTax2Applied", "tax2Percent", "tax2Title", &key::tax2Enabled,
-     &key::tax2Rate, &key::tax2Title, "isTax2Compound", &key::tax2IsCompound},
-    {&LineFields::tax3, "isTax3Applied", "tax3Percent", "tax3Title", &key::tax3Enabled,
-     &key::tax3Rate, &key::tax3Title, "isTax3Compound", &key::tax3IsCompound},
-};
+// The popover's box of each tax.
+constexpr std::array<bool LineFields::*, 3> kTaxBoxes{&LineFields::tax1, &LineFields::tax2,
+                                                      &LineFields::tax3};
 
 // The spare values every new line and remembered entry starts with.
 void clearSpares(Record& record, const QDateTime& now)
@@ -61,8 +45,8 @@ void writeLine(Record& line, const LineFields& fields)
     writeTexts(line, fields);
     line.setValue("baseAmount", fields.price);
     line.setValue("unitCount", fields.quantity);
-    for (const TaxKeys& t : kTaxes) {
-        line.setValue(t.applied, fields.*t.box);
+    for (size_t n = 0; n < kTaxes.size(); ++n) {
+        line.setValue(kTaxes[n].applied, fields.*kTaxBoxes[n]);
     }
 }
 
@@ -140,8 +124,8 @@ void LineItems::rememberCatalogEntry(const LineFields& fields)
     const Settings& s = session_.settings();
     Record* entry = context.insert("RecentItem");
     writeTexts(*entry, fields);
-    for (const TaxKeys& t : kTaxes) {
-        entry->setValue(t.applied, s.boolean(*t.enabled) && fields.*t.box);
+    for (size_t n = 0; n < kTaxes.size(); ++n) {
+        entry->setValue(kTaxes[n].applied, s.boolean(*kTaxes[n].enabled) && fields.*kTaxBoxes[n]);
     }
     entry->setValue("subAmount", fields.price);
     entry->setValue("baseAmount", fields.price);
@@ -156,9 +140,9 @@ LineFields LineItems::addItemRecent(const Record& entry, LineFields fields)
     fields.sku = entry.string("sku");
     fields.note = entry.string("note");
     const Settings& s = session_.settings();
-    for (const TaxKeys& t : kTaxes) {
-        if (s.boolean(*t.enabled)) {
-            fields.*t.box = entry.boolean(t.applied);
+    for (size_t n = 0; n < kTaxes.size(); ++n) {
+        if (s.boolean(*kTaxes[n].enabled)) {
+            fields.*kTaxBoxes[n] = entry.boolean(kTaxes[n].applied);
         }
     }
     fields.price = entry.decimal("baseAmount");
@@ -197,8 +181,8 @@ std::optional<LineFields> LineItems::openEditItemSheet(const Record* line) const
                       line->string("unit"),      line->string("sku"),
                       line->string("note"),      line->decimal("baseAmount"),
                       line->decimal("unitCount")};
-    for (const TaxKeys& t : kTaxes) {
-        fields.*t.box = line->boolean(t.applied);
+    for (size_t n = 0; n < kTaxes.size(); ++n) {
+        fields.*kTaxBoxes[n] = line->boolean(kTaxes[n].applied);
     }
     return fields;
 }

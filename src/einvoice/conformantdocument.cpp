@@ -98,12 +98,12 @@ private:
     std::vector<std::pair<size_t, Decimal>> allowances_;
 };
 
-// The taxes set among `keys` on `record`, as 0-based numbers.
-std::vector<int> appliedTaxes(const Record& record, const TaxKeys& keys)
+// The taxes whose `flag` is set on `record`, as 0-based numbers.
+std::vector<int> appliedTaxes(const Record& record, TaxFlag flag)
 {
     std::vector<int> taxes;
     for (int n = 0; n < 3; ++n) {
-        if (record.boolean(keys[size_t(n)])) {
+        if (record.boolean(kTaxes[size_t(n)].*flag)) {
             taxes.push_back(n);
         }
     }
@@ -123,7 +123,7 @@ std::optional<Finding> ConformantWriter::refuse(const std::vector<Record*>& item
     int number = 0;
     for (const Record* item : items) {
         ++number;
-        const std::vector<int> taxes = appliedTaxes(*item, kItemTaxApplied);
+        const std::vector<int> taxes = appliedTaxes(*item, &TaxKeys::applied);
         if (taxes.size() > 1) {
             return refusal(tr("Line %1 has %2 taxes, and an e-invoice line carries one tax "
                               "category: split it into one line per tax.")
@@ -131,9 +131,9 @@ std::optional<Finding> ConformantWriter::refuse(const std::vector<Record*>& item
                                .arg(taxes.size()),
                            EinvoiceField::line(number, "taxes"));
         }
-        if (!taxes.empty() && item->decimal(kTaxPercent[size_t(taxes.front())]) < 0) {
+        if (!taxes.empty() && item->decimal(kTaxes[size_t(taxes.front())].percent) < 0) {
             return refusal(tr("Line %1 has a negative tax rate.").arg(number),
-                           EinvoiceField::line(number, kTaxPercent[size_t(taxes.front())]));
+                           EinvoiceField::line(number, kTaxes[size_t(taxes.front())].percent));
         }
         if ((item->boolean("isTax2Applied") && item->boolean("isTax2Compound")) ||
             (item->boolean("isTax3Applied") && item->boolean("isTax3Compound"))) {
@@ -144,7 +144,7 @@ std::optional<Finding> ConformantWriter::refuse(const std::vector<Record*>& item
         }
     }
     if (invoice_.boolean("isShippingEnabled")) {
-        const std::vector<int> taxes = appliedTaxes(invoice_, kShippingTax);
+        const std::vector<int> taxes = appliedTaxes(invoice_, &TaxKeys::shipping);
         if (taxes.size() > 1) {
             return refusal(tr("The shipping has %1 taxes, and an e-invoice charge carries one tax "
                               "category.")
@@ -174,7 +174,7 @@ std::optional<Finding> ConformantWriter::refuse(const std::vector<Record*>& item
 
 size_t ConformantWriter::bucketFor(int n, const Record& rates)
 {
-    const double rate = n < 0 ? 0.0 : r4(rates.decimal(kTaxPercent[size_t(n)]));
+    const double rate = n < 0 ? 0.0 : r4(rates.decimal(kTaxes[size_t(n)].percent));
     // A tax at 0 % is no tax: the line is untaxed.
     const QString code = rate > 0 ? QStringLiteral("S") : exemption_;
     const Decimal percent = rate > 0 ? Decimal::fromDouble(rate).shifted(2) : Decimal();
@@ -192,7 +192,7 @@ void ConformantWriter::collect(const std::vector<Record*>& items)
     int number = 0;
     for (const Record* item : items) {
         ++number;
-        const std::vector<int> taxes = appliedTaxes(*item, kItemTaxApplied);
+        const std::vector<int> taxes = appliedTaxes(*item, &TaxKeys::applied);
         Decimal quantity = Decimal::fromDouble(r3(item->decimal("unitCount")));
         Decimal price = Decimal::fromDouble(r3(item->decimal("baseAmount")));
         // A price may not be negative: a credit is a negative quantity.
@@ -211,7 +211,7 @@ void ConformantWriter::collect(const std::vector<Record*>& items)
     const bool shippingDiscounted = invoice_.boolean("hasInvoiceTaxableAmounts");
     if (invoice_.boolean("isShippingEnabled")) {
         const Decimal shipping = Decimal::fromDouble(r2(invoice_.decimal("shippingAmount")));
-        const std::vector<int> taxes = appliedTaxes(invoice_, kShippingTax);
+        const std::vector<int> taxes = appliedTaxes(invoice_, &TaxKeys::shipping);
         if (!shipping.isZero()) {
             const size_t b = bucketFor(taxes.empty() ? -1 : taxes.front(), invoice_);
             buckets_[b].charges = buckets_[b].charges + shipping;

@@ -12,9 +12,6 @@ namespace tamo {
 
 namespace {
 
-constexpr TaxKeys kTaxAmount{"tax1Amount", "tax2Amount", "tax3Amount"};
-constexpr TaxKeys kTaxableAmount{"tax1TaxableAmount", "tax2TaxableAmount", "tax3TaxableAmount"};
-
 Decimal decimal(const Record& record, const char* key)
 {
     return Decimal::fromDouble(record.decimal(key));
@@ -30,8 +27,8 @@ void writeTaxTotal(UblWriter& w, const Record& invoice)
 {
     const QString scheme = invoice.string("evoiceTaxScheme");
     std::array<double, 3> tax{};
-    std::transform(kTaxAmount.begin(), kTaxAmount.end(), tax.begin(),
-                   [&](const char* key) { return invoice.decimal(key); });
+    std::transform(kTaxes.begin(), kTaxes.end(), tax.begin(),
+                   [&](const TaxKeys& keys) { return invoice.decimal(keys.amount); });
     if (std::any_of(tax.begin(), tax.end(), [](double t) { return t > 0; })) {
         const Kept kept = std::any_of(tax.begin(), tax.end(), [](double t) { return t < 0; })
                               ? Kept::PositiveTaxesOnly
@@ -46,7 +43,7 @@ void writeTaxTotal(UblWriter& w, const Record& invoice)
             if (!(tax[n] > 0)) {
                 continue;
             }
-            Decimal taxable = decimal(invoice, kTaxableAmount[n]);
+            Decimal taxable = decimal(invoice, kTaxes[n].taxable);
             // The totals leave the discount in the taxable sums; only tax 1 gives it back here.
             const bool discounted = n == 0 && invoice.boolean("isDiscountEnabled");
             if (discounted) {
@@ -57,7 +54,7 @@ void writeTaxTotal(UblWriter& w, const Record& invoice)
             w.amount("cbc:TaxableAmount", taxable);
             w.amount("cbc:TaxAmount", Decimal::fromDouble(tax[n]));
             w.taxCategory("cac:TaxCategory", {.id = QStringLiteral("S"),
-                                              .percent = percentText(invoice, kTaxPercent[n]),
+                                              .percent = percentText(invoice, kTaxes[n].percent),
                                               .scheme = scheme,
                                               .schemeSource = schemeSource()});
             w.close();
@@ -143,12 +140,12 @@ void writeLine(UblWriter& w, int number, const Line& line, const QString& scheme
 }
 
 // The percents of the taxes whose flags are set, each rate taken from `rates`.
-QStringList appliedPercents(const Record& flags, const TaxKeys& flagKeys, const Record& rates)
+QStringList appliedPercents(const Record& flags, TaxFlag flag, const Record& rates)
 {
     QStringList percents;
-    for (size_t n = 0; n < flagKeys.size(); ++n) {
-        if (flags.boolean(flagKeys[n])) {
-            percents << percentText(rates, kTaxPercent[n]);
+    for (const TaxKeys& keys : kTaxes) {
+        if (flags.boolean(keys.*flag)) {
+            percents << percentText(rates, keys.percent);
         }
     }
     return percents;
@@ -171,7 +168,7 @@ void writeLines(UblWriter& w, const Record& invoice, const std::vector<Record*>&
         ++number;
         const Decimal quantity = decimal(*item, "unitCount");
         const Decimal price = decimal(*item, "baseAmount");
-        const QStringList percents = appliedPercents(*item, kItemTaxApplied, *item);
+        const QStringList percents = appliedPercents(*item, &TaxKeys::applied, *item);
         writeLine(
             w, number,
             {.quantity = quantity.amountText(),
@@ -189,7 +186,7 @@ void writeLines(UblWriter& w, const Record& invoice, const std::vector<Record*>&
     }
     if (invoice.boolean("isShippingEnabled")) {
         const QString shipping = amountText(invoice.decimal("shippingAmount"));
-        const QStringList percents = appliedPercents(invoice, kShippingTax, invoice);
+        const QStringList percents = appliedPercents(invoice, &TaxKeys::shipping, invoice);
         writeLine(w, ++number,
                   {.quantity = one,
                    .amount = shipping,

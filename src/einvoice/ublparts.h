@@ -6,6 +6,7 @@
 
 #include "einvoice/decimal.h"
 #include "einvoice/ubltree.h"
+#include "model/taxkeys.h"
 
 // The parts the standard and the conformant e-invoice share: the header, the two parties, the
 // delivery and the payment means.
@@ -15,12 +16,9 @@ namespace tamo {
 class Record;
 class Settings;
 
-// The keys of taxes 1, 2 and 3.
-using TaxKeys = std::array<const char*, 3>;
-inline constexpr TaxKeys kTaxPercent{"tax1Percent", "tax2Percent", "tax3Percent"};
-inline constexpr TaxKeys kItemTaxApplied{"isTax1Applied", "isTax2Applied", "isTax3Applied"};
-inline constexpr TaxKeys kShippingTax{"isShippingTax1Enabled", "isShippingTax2Enabled",
-                                      "isShippingTax3Enabled"};
+// Which flag of the tax keys says that a tax applies: `&TaxKeys::applied` on a line,
+// `&TaxKeys::shipping` on the document's shipping.
+using TaxFlag = const char* TaxKeys::*;
 
 // A tax category; no percent element when `percent` is null, no exemption reason when it is
 // empty.

@@ -13,6 +13,7 @@
 #include "app/editor/fieldbinder.h"
 #include "calc/numberformat.h"
 #include "documents/lineitems.h"
+#include "model/taxkeys.h"
 
 namespace tamo {
 
@@ -74,13 +75,11 @@ ShippingPopover::ShippingPopover(AppSession& session, LineItems& lines, QWidget*
     binder_->bindAmount(amount, "shippingAmount", tr("Edit Shipping Amount"));
     form->addRow(tr("Amount:"), amount);
     auto* taxes = new QHBoxLayout;
-    const char* keys[] = {"isShippingTax1Enabled", "isShippingTax2Enabled",
-                          "isShippingTax3Enabled"};
-    const SettingKey* titles[] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
     for (int i = 0; i < 3; ++i) {
-        const QString title = session.settings().string(*titles[i]);
+        const TaxKeys& tax = kTaxes[size_t(i)];
+        const QString title = session.settings().string(*tax.titleSetting);
         taxes_[i] = new QCheckBox(title.isEmpty() ? tr("Tax %1").arg(i + 1) : title, entry);
-        binder_->bindCheck(taxes_[i], keys[i], tr("Tax Shipping"));
+        binder_->bindCheck(taxes_[i], tax.shipping, tr("Tax Shipping"));
         taxes->addWidget(taxes_[i]);
     }
     taxes->addStretch();
@@ -112,9 +111,9 @@ bool ShippingPopover::open(QWidget* anchor)
     taken_ = false;
     binder_->refresh();
     // Taxes switched off in the preferences are offered only while the shipping still has them.
-    const SettingKey* enabled[] = {&key::tax1Enabled, &key::tax2Enabled, &key::tax3Enabled};
     for (int i = 0; i < 3; ++i) {
-        taxes_[i]->setVisible(session_.settings().boolean(*enabled[i]) || taxes_[i]->isChecked());
+        taxes_[i]->setVisible(session_.settings().boolean(*kTaxes[size_t(i)].enabled) ||
+                              taxes_[i]->isChecked());
     }
     remembered_->clear();
     entries_ = lines_.rememberedShipping();

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 
 #include "calc/numberformat.h"
+#include "model/taxkeys.h"
 #include "settings/settings.h"
 
 namespace tamo {
@@ -82,15 +83,13 @@ LineFieldsForm::LineFieldsForm(QWidget* parent)
 
 void LineFieldsForm::showTaxes(const Settings& settings)
 {
-    const SettingKey* titles[] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
-    const SettingKey* rates[] = {&key::tax1Rate, &key::tax2Rate, &key::tax3Rate};
-    const SettingKey* enabled[] = {&key::tax1Enabled, &key::tax2Enabled, &key::tax3Enabled};
     for (int i = 0; i < 3; ++i) {
-        const QString title = settings.string(*titles[i]);
+        const TaxKeys& tax = kTaxes[size_t(i)];
+        const QString title = settings.string(*tax.titleSetting);
         taxes_[i]->setText(tr("%1 (%2 %)")
                                .arg(title.isEmpty() ? tr("Tax %1").arg(i + 1) : title,
-                                    decimalStringFromNumber(settings.real(*rates[i]) * 100)));
-        taxes_[i]->setVisible(settings.boolean(*enabled[i]));
+                                    decimalStringFromNumber(settings.real(*tax.rate) * 100)));
+        taxes_[i]->setVisible(settings.boolean(*tax.enabled));
     }
 }
 

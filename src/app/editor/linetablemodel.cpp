@@ -7,6 +7,7 @@
 
 #include "calc/numberformat.h"
 #include "model/record.h"
+#include "model/taxkeys.h"
 
 namespace tamo {
 
@@ -17,17 +18,16 @@ QString taxesOf(const Record& line)
 {
     QStringList taxes;
     for (int n = 1; n <= 3; ++n) {
-        const std::string applied = "isTax" + std::to_string(n) + "Applied";
-        if (!line.boolean(applied)) {
+        const TaxKeys& tax = kTaxes[size_t(n - 1)];
+        if (!line.boolean(tax.applied)) {
             continue;
         }
-        const std::string prefix = "tax" + std::to_string(n);
-        QString title = line.string(prefix + "Title");
+        QString title = line.string(tax.title);
         if (title.isEmpty()) {
             title = LineTableModel::tr("Tax %1").arg(n);
         }
         taxes << LineTableModel::tr("%1 %2 %").arg(
-            title, decimalStringFromNumber(line.decimal(prefix + "Percent") * 100));
+            title, decimalStringFromNumber(line.decimal(tax.percent) * 100));
     }
     return taxes.join(QStringLiteral(", "));
 }

@@ -6,6 +6,7 @@
 
 #include "calc/numberformat.h"
 #include "model/record.h"
+#include "model/taxkeys.h"
 #include "settings/settings.h"
 
 namespace tamo {
@@ -59,22 +60,20 @@ void TotalsView::showDocument(const Record& document, const Settings& settings)
     setRow(Shipping, document.boolean("isShippingEnabled"),
            shipping.isEmpty() ? tr("Shipping") : shipping, document.decimal("shippingAmount"));
 
-    const SettingKey* titles[] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
-    const SettingKey* enabled[] = {&key::tax1Enabled, &key::tax2Enabled, &key::tax3Enabled};
     const QPalette::ColorRole color = taxAmountColor(settings) == LabelColor::Normal
                                           ? QPalette::WindowText
                                           : QPalette::PlaceholderText;
     for (int n = 0; n < 3; ++n) {
-        const std::string prefix = "tax" + std::to_string(n + 1);
-        const double amount = document.decimal(prefix + "Amount");
-        QString title = settings.string(*titles[n]);
+        const TaxKeys& tax = kTaxes[size_t(n)];
+        const double amount = document.decimal(tax.amount);
+        QString title = settings.string(*tax.titleSetting);
         if (title.isEmpty()) {
             title = tr("Tax %1").arg(n + 1);
         }
         const auto row = Row(Tax1 + n);
-        setRow(row, settings.boolean(*enabled[n]) || amount != 0,
+        setRow(row, settings.boolean(*tax.enabled) || amount != 0,
                tr("%1 (%2 %)")
-                   .arg(title, decimalStringFromNumber(document.decimal(prefix + "Percent") * 100)),
+                   .arg(title, decimalStringFromNumber(document.decimal(tax.percent) * 100)),
                amount);
         amounts_[row]->setForegroundRole(color);
     }
