@@ -133,7 +133,13 @@ MainWindow::MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> 
             &DocumentEditor::showClientBlock);
     connect(&lifecycle, &DocumentLifecycle::dispatchDateSet, editor_,
             &DocumentEditor::focusDispatchNumber);
-    connect(&lifecycle, &DocumentLifecycle::filterChanged, this, &MainWindow::updateFilterButton);
+    connect(&list, &DocumentList::filterChanged, this, &MainWindow::updateFilterButton);
+    // The list may clear its search text itself (a new document is never hidden).
+    connect(&list, &DocumentList::searchTextChanged, search_, [this](const QString& text) {
+        if (search_->text() != text) {
+            search_->setText(text);
+        }
+    });
     contextChanged();
 }
 

@@ -27,8 +27,12 @@ const Formatters& formattersFor(const QLocale& locale)
     const QString name = locale.name();
     auto it = cache.find(name);
     if (it == cache.end()) {
-        const auto base = number::NumberFormatter::withLocale(icutext::locale(locale))
-                              .roundingMode(UNUM_ROUND_HALFEVEN);
+        // Qt's C locale writes numbers as English does; ICU's POSIX locale would drop the
+        // grouping.
+        const icu::Locale icuLocale =
+            locale.language() == QLocale::C ? icu::Locale("en_US") : icutext::locale(locale);
+        const auto base =
+            number::NumberFormatter::withLocale(icuLocale).roundingMode(UNUM_ROUND_HALFEVEN);
         it = cache
                  .emplace(name, Formatters{base.precision(number::Precision::fixedFraction(2)),
                                            base.precision(number::Precision::maxFraction(3))})

@@ -310,6 +310,27 @@ void Totals::calculateDatabase()
         collectStatistics(session_.documents().arranged(), session_.clock().now()));
 }
 
+void Totals::refreshStatistics()
+{
+    Context* context = session_.context();
+    if (!context) {
+        return;
+    }
+    const bool clean = !context->hasChanges();
+    {
+        WithoutUndo automatic(*context);
+        UndoGroup announce(*context, {});  // what the pass changed is announced once
+        calculateDatabase();
+    }
+    // What the pass changes on a store nobody has touched (an invoice fell due) is kept at once,
+    // so that an untouched store has nothing unsaved. A pending edit is the edit's to save.
+    if (clean && context->hasChanges()) {
+        if (auto saved = context->save(); !saved) {
+            session_.prompter().presentError(saved.error());
+        }
+    }
+}
+
 bool callsForCompoundTaxes(const Settings& settings, const Record& document)
 {
     return chooseCalculator(settings, document) == Calculator::Compound;

@@ -31,6 +31,10 @@ public:
     // Counts and sums the listed documents, moving sent invoices between open and overdue and
     // recording first payments on the way.
     void calculateDatabase();
+    // The statistics pass as the window runs it on its own, after the list changed: open and
+    // overdue follow from the clock, not from anything the person did, so it is no step to undo.
+    // On a store without unsaved changes, what it changes is saved.
+    void refreshStatistics();
 
 private:
     AppSession& session_;

@@ -88,8 +88,7 @@ std::optional<ClientPanel> Clients::showAddressPopover(const ContactBook& book,
              {QStringLiteral("OK")}});
         return std::nullopt;
     }
-    if (!session_.documents().current() ||
-        DocumentLifecycle(session_).refuseChangesToSentDocument()) {
+    if (!session_.documents().current() || refuseChangesToSentDocument(session_)) {
         return std::nullopt;
     }
     Settings& s = session_.settings();
@@ -233,7 +232,6 @@ void Clients::generateClientNumber(ClientPanel& panel) const
 bool Clients::contactsButtonAction()
 {
     const QString location = contactsLocation();
-    QString wanted = location;
     QString url;
     if (!location.isEmpty()) {
         if (QFileInfo::exists(location)) {
@@ -241,9 +239,9 @@ bool Clients::contactsButtonAction()
         }
     } else {
         // The application is handed over as its desktop entry, which the desktop launches.
-        wanted = QString::fromUtf16(kContactsApplication);
-        const QString entry = QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
-                                                     wanted + QStringLiteral(".desktop"));
+        const QString entry = QStandardPaths::locate(
+            QStandardPaths::ApplicationsLocation,
+            QString::fromUtf16(kContactsApplication) + QStringLiteral(".desktop"));
         if (!entry.isEmpty()) {
             url = QUrl::fromLocalFile(entry).toString();
         }
@@ -252,11 +250,35 @@ bool Clients::contactsButtonAction()
     if (!url.isEmpty() && openUrl && openUrl(url)) {
         return true;
     }
-    session_.prompter().ask(
-        {QStringLiteral("Error!"),
-         QStringLiteral("Application with bundle identifier '%1' not found.").arg(wanted),
-         {QStringLiteral("OK")}});
-    return false;
+    // Nothing to open: say what is missing and offer to choose the address book.
+    const QString file = tr("Choose vCard File…");
+    const QString folder = tr("Choose Folder…");
+    const QString text =
+        location.isEmpty()
+            ? tr("Tamo takes its clients from an address book of vCard files (.vcf), and none is "
+                 "chosen yet; no contacts application was found to open instead. Choose a vCard "
+                 "file, or a folder of vCard files, as your address book.")
+            : tr("The address book “%1” is not there any more. Choose a vCard file, or a folder "
+                 "of vCard files, as your address book.")
+                  .arg(location);
+    const QString answer =
+        session_.prompter().ask({tr("Hint!"), text, {file, folder, tr("Cancel")}});
+    if (answer != file && answer != folder) {
+        return false;
+    }
+    FileRequest request;
+    request.title = tr("Choose Address Book");
+    if (answer == file) {
+        request.extensions = {QStringLiteral("vcf"), QStringLiteral("vcard")};
+    } else {
+        request.directories = true;
+    }
+    const std::optional<QString> chosen = session_.prompter().chooseFileToOpen(request);
+    if (!chosen) {
+        return false;
+    }
+    session_.settings().set(key::contactsLocation, *chosen);
+    return true;
 }
 
 }  // namespace tamo

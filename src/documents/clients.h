@@ -56,8 +56,9 @@ public:
     void selectRecentAdress(const Record& address);
     std::vector<Record*> rememberedClients() const;
     void generateClientNumber(ClientPanel& panel) const;
-    // Opens the vCard location, or without one the contacts application; false with a message
-    // when neither can be opened.
+    // Opens the vCard location, or without one the contacts application. When neither can be
+    // opened, says so and offers to choose a vCard file or folder as the address book (then
+    // stored in the settings); false when nothing was opened or chosen.
     bool contactsButtonAction();
 
 private:

@@ -27,18 +27,18 @@ DocumentLifecycle::DocumentLifecycle(AppSession& session, NotificationScheduler*
 {
 }
 
-bool DocumentLifecycle::isCurrentInvoiceSent() const
+bool isCurrentInvoiceSent(AppSession& session)
 {
-    const Record* d = currentInvoice();
+    const Record* d = session.documents().current();
     return d && d->integer("status") > 0;
 }
 
-bool DocumentLifecycle::refuseChangesToSentDocument() const
+bool refuseChangesToSentDocument(AppSession& session)
 {
-    if (!isCurrentInvoiceSent()) {
+    if (!isCurrentInvoiceSent(session)) {
         return false;
     }
-    session_.prompter().ask({QStringLiteral("Error!"), kAlreadySentText, {QStringLiteral("OK")}});
+    session.prompter().ask({QStringLiteral("Error!"), kAlreadySentText, {QStringLiteral("OK")}});
     return true;
 }
 
@@ -56,10 +56,10 @@ QDateTime DocumentLifecycle::futureDateFromTodayWithDays(int choice, const QDate
     }
 }
 
-void DocumentLifecycle::setFilterTag(int tag)
+void DocumentLifecycle::reveal(Record* document)
 {
-    filterTag_ = tag;
-    emit filterChanged(tag);
+    session_.documents().reveal(document);
+    Totals(session_).refreshStatistics();  // the new document counts for the next number
 }
 
 Record* DocumentLifecycle::newDocument(bool invoice)
@@ -71,8 +71,6 @@ Record* DocumentLifecycle::newDocument(bool invoice)
     Settings& s = session_.settings();
     const QDateTime now = session_.clock().now();
     const Numbering numbering(session_);
-    // The filter button shows "all" again; the filter itself stays until the person changes it.
-    setFilterTag(0);
     Record* d = nullptr;
     {
         UndoGroup group(*context, invoice ? tr("New Invoice") : tr("New Quote"));
@@ -137,8 +135,7 @@ Record* DocumentLifecycle::newDocument(bool invoice)
             }
         }
     }
-    refreshStatistics();  // the new document counts for the next number
-    session_.documents().setSelection({d});
+    reveal(d);
     emit documentCreated(d);
     session_.saveContext();
     return d;
@@ -163,7 +160,6 @@ Record* DocumentLifecycle::duplicateInvoice(bool withItems)
     }
     Settings& s = session_.settings();
     const QDateTime now = session_.clock().now();
-    setFilterTag(0);
     Record* copy = nullptr;
     {
         UndoGroup group(*context, tr("Duplicate"));
@@ -194,8 +190,7 @@ Record* DocumentLifecycle::duplicateInvoice(bool withItems)
         copy->setValue("dueAmount", 0.0);
         copy->setValue("isDispatched", false);
     }
-    refreshStatistics();
-    session_.documents().setSelection({copy});
+    reveal(copy);
     emit documentCreated(copy);
     session_.saveContext();
     return copy;
@@ -225,7 +220,6 @@ bool DocumentLifecycle::convertQuoteToInvoice()
     }
     Settings& s = session_.settings();
     const QDateTime now = session_.clock().now();
-    setFilterTag(0);
     {
         UndoGroup group(*session_.context(), tr("Convert Into Invoice"));
         d->setValue("kind", 1);
@@ -242,6 +236,7 @@ bool DocumentLifecycle::convertQuoteToInvoice()
         d->setValue("misc1", s.string(key::tempInvMisc));
     }
     session_.documents().rearrange();
+    session_.documents().reveal(d);
     session_.saveContext();
     return true;
 }
@@ -276,12 +271,12 @@ bool DocumentLifecycle::deleteInvoice()
     if (prompter.ask(question) != remove) {
         return false;
     }
-    setFilterTag(0);
     {
         UndoGroup group(*session_.context(), quote ? tr("Delete Quote") : tr("Delete Invoice"));
         session_.context()->remove(d);
     }
-    refreshStatistics();
+    // The list stays as the person narrowed it; only the deleted document leaves it.
+    Totals(session_).refreshStatistics();
     session_.saveContext();
 
     const QString adjust = QStringLiteral("Adjust Counter");
@@ -353,35 +348,23 @@ Predicate DocumentLifecycle::filterPredicate(int tag, const QDateTime& now)
 
 void DocumentLifecycle::selectFilter(int tag)
 {
-    setFilterTag(tag);
-    session_.documents().setFilter(filterPredicate(tag, session_.clock().now()));
-    refreshStatistics();
-}
-
-// The list is re-arranged when an action's undo group closes; its counts follow then. Like every
-// pass the window runs on its own, this one is no step to undo: it follows the clock.
-void DocumentLifecycle::refreshStatistics()
-{
-    if (Context* context = session_.context()) {
-        WithoutUndo automatic(*context);
-        Totals(session_).calculateDatabase();
-    }
+    session_.documents().setFilter(tag, filterPredicate(tag, session_.clock().now()));
+    Totals(session_).refreshStatistics();
 }
 
 void DocumentLifecycle::filterForInvoice(const QString& uniqueID)
 {
     DocumentList& list = session_.documents();
-    list.setFilter([uniqueID](const Record& r) { return r.uniqueID() == uniqueID; });
+    list.setFilter(99, [uniqueID](const Record& r) { return r.uniqueID() == uniqueID; });
     if (list.size() > 0) {
         list.setSelection({list.at(0)});
     }
-    refreshStatistics();
-    setFilterTag(99);
+    Totals(session_).refreshStatistics();
 }
 
 QString DocumentLifecycle::filterImageName() const
 {
-    return filterTag_ != 0 ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate");
+    return filterTag() != 0 ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate");
 }
 
 SheetTexts DocumentLifecycle::reminderSheetTexts() const

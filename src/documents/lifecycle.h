@@ -27,6 +27,13 @@ struct NotificationRequest {
     QDateTime deliveryDate;
 };
 
+// Whether the current document is marked as sent (status above 0); it is then locked against
+// changes apart from its status and payment.
+bool isCurrentInvoiceSent(AppSession& session);
+// The guard of every editing action: shows the "already sent" alert and returns true when the
+// current document may not be changed.
+bool refuseChangesToSentDocument(AppSession& session);
+
 // The life of one document: creating invoices and quotes, duplicating, converting, deleting,
 // dispatching, the list filters, the reminder and slip texts and the due-date notification. Each
 // operation acts on the current document (the first selected of the list), asks through the
@@ -38,10 +45,8 @@ public:
     explicit DocumentLifecycle(AppSession& session, NotificationScheduler* scheduler = nullptr);
 
     Record* currentInvoice() const { return session_.documents().current(); }
-    bool isCurrentInvoiceSent() const;
-    // The guard of every editing action: shows the "already sent" alert and returns true when
-    // the current document may not be changed.
-    bool refuseChangesToSentDocument() const;
+    bool isCurrentInvoiceSent() const { return tamo::isCurrentInvoiceSent(session_); }
+    bool refuseChangesToSentDocument() const { return tamo::refuseChangesToSentDocument(session_); }
 
     Record* addInvoice();
     Record* addQuote();
@@ -56,7 +61,7 @@ public:
     // Today plus 14, 21 or 28 days for the choices 1, 2, 3, and plus 7 for any other.
     static QDateTime futureDateFromTodayWithDays(int choice, const QDateTime& now);
 
-    int filterTag() const { return filterTag_; }
+    int filterTag() const { return session_.documents().filterTag(); }
     // Applies the filter of that tag to the list, then the statistics pass.
     void selectFilter(int tag);
     void openFilterPopover() { selectFilter(0); }
@@ -64,8 +69,6 @@ public:
     void filterForInvoice(const QString& uniqueID);
     QString filterImageName() const;
     static Predicate filterPredicate(int tag, const QDateTime& now);
-    // The statistics pass over the list as it is arranged now; no step to undo.
-    void refreshStatistics();
 
     SheetTexts reminderSheetTexts() const;
     SheetTexts slipSheetTexts() const;
@@ -79,15 +82,14 @@ signals:
     // A new document is in the list and selected; the window turns to its client.
     void documentCreated(tamo::Record* document);
     void dispatchDateSet(tamo::Record* document);
-    void filterChanged(int tag);
 
 private:
     Record* newDocument(bool invoice);
-    void setFilterTag(int tag);
+    // Lists every document and makes the new one current.
+    void reveal(Record* document);
 
     AppSession& session_;
     NotificationScheduler* scheduler_;
-    int filterTag_ = 0;
 };
 
 }  // namespace tamo

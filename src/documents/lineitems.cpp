@@ -55,7 +55,7 @@ void writeLine(Record& line, const LineFields& fields)
 Record* LineItems::editableDocument() const
 {
     Record* document = session_.documents().current();
-    if (!document || DocumentLifecycle(session_).refuseChangesToSentDocument()) {
+    if (!document || refuseChangesToSentDocument(session_)) {
         return nullptr;
     }
     return document;

@@ -309,7 +309,7 @@ ActionResult DataInterchange::importInvoice()
     if (!imported) {
         return refused(imported.error());
     }
-    session_.documents().setSelection({*imported});
+    session_.documents().reveal(*imported);
     session_.saveContext();
     return ActionResult::Done;
 }

@@ -33,10 +33,12 @@ int DocumentList::indexOf(const Record* record) const
     return it == rows_.end() ? -1 : it->second;
 }
 
-void DocumentList::setFilter(Predicate filter)
+void DocumentList::setFilter(int tag, Predicate filter)
 {
     filter_ = std::move(filter);
+    filterTag_ = tag;
     rearrange();
+    emit filterChanged(tag);
 }
 
 void DocumentList::setSearchText(const QString& text)
@@ -46,6 +48,26 @@ void DocumentList::setSearchText(const QString& text)
     }
     search_ = text;
     rearrange();
+    emit searchTextChanged(text);
+}
+
+void DocumentList::reveal(Record* document)
+{
+    const bool filtered = filter_ || filterTag_ != 0;
+    const bool searched = !search_.isEmpty();
+    filter_ = {};
+    filterTag_ = 0;
+    search_.clear();
+    if (filtered || searched || (document && !rows_.contains(document))) {
+        rearrange();
+    }
+    if (filtered) {
+        emit filterChanged(0);
+    }
+    if (searched) {
+        emit searchTextChanged(search_);
+    }
+    setSelection(document ? std::vector<Record*>{document} : std::vector<Record*>{});
 }
 
 void DocumentList::setSortDescriptors(std::vector<SortDescriptor> sort)

@@ -25,9 +25,14 @@ public:
     Record* at(int row) const;
     int indexOf(const Record* record) const;  // -1 when not listed
 
-    void setFilter(Predicate filter);
+    // The filter and the tag the window names it by (0: none, 99: one document).
+    void setFilter(int tag, Predicate filter);
+    int filterTag() const { return filterTag_; }
     void setSearchText(const QString& text);
     QString searchText() const { return search_; }
+    // Lists every document again (no filter, no search text) and makes `document` the current
+    // one: a document the person just created or brought in is never hidden.
+    void reveal(Record* document);
     void setSortDescriptors(std::vector<SortDescriptor> sort);
     const std::vector<SortDescriptor>& sortDescriptors() const { return sort_; }
     // Fetches, filters and sorts again.
@@ -43,12 +48,15 @@ signals:
     void arrangementChanged();
     void documentsChanged(const std::vector<tamo::Record*>& documents);
     void selectionChanged();
+    void filterChanged(int tag);
+    void searchTextChanged(const QString& text);
 
 private:
     void contextChanged(const ChangeSet& changes);
 
     Context* context_ = nullptr;
     Predicate filter_;
+    int filterTag_ = 0;
     QString search_;
     std::vector<SortDescriptor> sort_;
     std::vector<Record*> arranged_;

@@ -19,7 +19,8 @@ QString stampImageName(const Record* document, bool table)
 
 bool invoiceSentToBool(const Record* document)
 {
-    return document && (document->integer("kind") == 0 || document->integer("status") < 1);
+    // The lock the "already sent" guard enforces, quotes included.
+    return document && document->integer("status") < 1;
 }
 
 bool intToDateBool(int status)

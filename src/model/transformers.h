@@ -11,7 +11,7 @@ class Record;
 QString stampImageName(const Record* document, bool table);
 
 // Shown-or-hidden rules of the document view.
-bool invoiceSentToBool(const Record* document);  // editable: a quote, or not yet sent
+bool invoiceSentToBool(const Record* document);  // editable: not yet sent
 bool intToDateBool(int status);                  // payment date hidden until paid
 bool intToAmountBool(int status);                // paid amount hidden unless partially paid
 

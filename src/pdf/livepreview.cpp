@@ -20,8 +20,15 @@ LivePreview::LivePreview(AppSession& session, DesignLibrary& designs, PdfOutput&
     timer_.setSingleShot(true);
     timer_.setInterval(kGatherMilliseconds);
     connect(&timer_, &QTimer::timeout, this, [this] {
-        if (enabled_ && session_.documents().current()) {
+        if (!enabled_) {
+            return;
+        }
+        if (session_.documents().current()) {
             output_.generatePreview();
+        } else {
+            // Without a document there is nothing to preview, not the last document.
+            output_.cancelPreview();
+            emit emptied();
         }
     });
     connect(&output_, &PdfOutput::previewReady, this, &LivePreview::updated);

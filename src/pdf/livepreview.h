@@ -31,6 +31,8 @@ public:
 signals:
     // The preview file was rewritten.
     void updated(const QString& path);
+    // No document is selected: the preview shows nothing.
+    void emptied();
 
 private:
     void contextChanged();

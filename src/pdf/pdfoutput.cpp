@@ -38,27 +38,36 @@ QString PdfOutput::attachmentPath() const
 
 void PdfOutput::generatePreview()
 {
-    generate(RenderMode::Document, {}, Target::Preview);
+    generate(RenderMode::Document, {}, Preview);
+}
+
+void PdfOutput::cancelPreview()
+{
+    renderer_.cancelWaiting(Preview);
+    ++request_[Preview];
+    waiting_[Preview] = false;
+    updateBusy();
 }
 
 void PdfOutput::generateReminder(const SheetTexts& texts)
 {
-    generate(RenderMode::Reminder, texts, Target::Preview);
+    generate(RenderMode::Reminder, texts, Preview);
 }
 
 void PdfOutput::generateSlip(const SheetTexts& texts)
 {
-    generate(RenderMode::Slip, texts, Target::Preview);
+    generate(RenderMode::Slip, texts, Preview);
 }
 
 void PdfOutput::selectDesign(int index)
 {
     html_.designs().selectDesign(index);
-    generate(html_.mode(), html_.sheetTexts(), Target::TemplatePreview);
+    generate(html_.mode(), html_.sheetTexts(), TemplatePreview);
 }
 
-void PdfOutput::setBusy(bool busy)
+void PdfOutput::updateBusy()
 {
+    const bool busy = std::find(waiting_.begin(), waiting_.end(), true) != waiting_.end();
     if (busy != busy_) {
         busy_ = busy;
         emit busyChanged(busy);
@@ -68,39 +77,46 @@ void PdfOutput::setBusy(bool busy)
 void PdfOutput::generate(RenderMode mode, const SheetTexts& texts, Target target)
 {
     html_.setMode(mode, texts);
-    session_.settings().set(key::isMainPreviewAction, true);
-    setBusy(true);
-    // Requests still waiting are out of date now; the page printing finishes, and its result is
-    // dropped (stopping it would cost a new engine process, more than most pages take).
-    renderer_.cancelWaiting();
-    if (renderer_.busyMilliseconds() > kLongPrint) {
-        renderer_.cancelAll();  // probably a layout running away: no need to wait for its end
+    if (!session_.settings().boolean(key::isMainPreviewAction)) {
+        session_.settings().set(key::isMainPreviewAction, true);
     }
-    const quint64 request = ++request_;
-    renderer_.render(html_.invoiceHTMLString(), pageLayoutFromSettings(session_.settings()),
-                     [this, target, request](const Result<QByteArray>& pdf) {
-                         createPDF(pdf, target, request);
-                     });
+    // This target's requests still waiting are out of date now; its page printing finishes, and
+    // its result is dropped (stopping it would cost a new engine process, more than most pages
+    // take).
+    renderer_.cancelWaiting(target);
+    if (renderer_.busyMilliseconds() > kLongPrint) {
+        renderer_.cancelRunning(target);  // probably a layout running away: no need to wait
+    }
+    const quint64 request = ++request_[target];
+    waiting_[target] = true;
+    updateBusy();
+    renderer_.render(
+        html_.invoiceHTMLString(), html_.pageLayout(),
+        [this, target, request](const Result<QByteArray>& pdf) { createPDF(pdf, target, request); },
+        {}, target);
 }
 
 void PdfOutput::createPDF(const Result<QByteArray>& pdf, Target target, quint64 request)
 {
-    if (request != request_) {
+    if (request != request_[target]) {
         return;
     }
-    setBusy(false);
+    waiting_[target] = false;
+    updateBusy();
     Result<void> written =
         pdf ? writeFileAtomically(previewPath(), *pdf) : Result<void>(std::unexpected(pdf.error()));
     if (!written) {
-        const QString what = target == Target::Preview
+        const QString what = target == Preview
                                  ? tr("Something went really wrong while creating the preview.")
                                  : tr("Something went really wrong while creating the design "
                                       "preview.");
-        session_.prompter().ask(
-            {tr("Ooops!"), what + u"\n\n"_qs + written.error().text(), {tr("OK")}});
+        showOoops(session_.prompter(), what + u"\n\n"_qs + written.error().text());
+        if (target == TemplatePreview) {
+            emit templatePreviewFailed();
+        }
         return;
     }
-    if (target == Target::Preview) {
+    if (target == Preview) {
         emit previewReady(previewPath());
     } else {
         emit templatePreviewReady(previewPath());
@@ -109,8 +125,8 @@ void PdfOutput::createPDF(const Result<QByteArray>& pdf, Target target, quint64 
 
 Result<void> PdfOutput::writePdf(const Record& document, const QString& path)
 {
-    auto pdf = renderer_.renderAndWait(html_.invoiceHTMLStringFromInvoice(document),
-                                       pageLayoutFromSettings(session_.settings()));
+    auto pdf =
+        renderer_.renderAndWait(html_.invoiceHTMLStringFromInvoice(document), html_.pageLayout());
     if (!pdf) {
         return std::unexpected(pdf.error());
     }

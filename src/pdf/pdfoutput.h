@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QObject>
+#include <array>
 #include <vector>
 
 #include "pdf/pdfrenderer.h"
@@ -27,6 +28,8 @@ public:
     QString attachmentPath() const;
 
     void generatePreview();
+    // Drops the main preview asked for and not yet shown.
+    void cancelPreview();
     void generateReminder(const SheetTexts& texts);
     void generateSlip(const SheetTexts& texts);
     // The design chooser: stores the choice and renders the current document with it.
@@ -43,19 +46,26 @@ signals:
     void previewReady(const QString& path);
     // The design chooser's preview is ready; its OK button may be enabled.
     void templatePreviewReady(const QString& path);
+    // The design chooser's preview could not be made (the reason has been shown).
+    void templatePreviewFailed();
 
 private:
-    enum class Target { Preview, TemplatePreview };
+    // The main preview and the chooser's are asked for independently: a newer request of one
+    // makes only that one's older request out of date.
+    enum Target { Preview, TemplatePreview, TargetCount };
     void generate(RenderMode mode, const SheetTexts& texts, Target target);
     // Writes the printed page into the preview file and shows it, or reports the failure.
     void createPDF(const Result<QByteArray>& pdf, Target target, quint64 request);
-    void setBusy(bool busy);
+    void updateBusy();
 
     AppSession& session_;
     InvoiceHtml& html_;
     PdfRenderer& renderer_;
     bool busy_ = false;
-    quint64 request_ = 0;  // the newest request; older results are out of date when they come
+    // Per target: the newest request (older results are out of date when they come) and
+    // whether it is still being printed.
+    std::array<quint64, TargetCount> request_{};
+    std::array<bool, TargetCount> waiting_{};
 };
 
 // One document to be written to a file through a shared renderer: `source` is its page,

@@ -181,22 +181,40 @@ void PdfRenderer::dropEngine()
 }
 
 void PdfRenderer::render(const QString& html, const QPageLayout& layout, Done done,
-                         PageOptions options)
+                         PageOptions options, int asker)
 {
-    queue_.push_back({html, layout, std::move(done), options});
+    queue_.push_back({html, layout, std::move(done), options, asker});
     if (!running_) {
         startNext();
+    }
+}
+
+void PdfRenderer::cancelWaiting(int asker)
+{
+    std::erase_if(queue_, [asker](const Job& job) { return job.asker == asker; });
+}
+
+void PdfRenderer::stopRunning()
+{
+    if (running_) {
+        running_.reset();
+        watchdog_.stop();
+        ++generation_;
+        dropEngine();
     }
 }
 
 void PdfRenderer::cancelAll()
 {
     queue_.clear();
-    if (running_) {
-        running_.reset();
-        watchdog_.stop();
-        ++generation_;
-        dropEngine();
+    stopRunning();
+}
+
+void PdfRenderer::cancelRunning(int asker)
+{
+    if (running_ && running_->asker == asker) {
+        stopRunning();
+        startNext();
     }
 }
 

@@ -69,13 +69,18 @@ public:
     Limits limits() const { return limits_; }
 
     // Queues a page; `done` runs on this thread with the PDF or the reason there is none.
-    void render(const QString& html, const QPageLayout& layout, Done done,
-                PageOptions options = {});
+    // `asker` tells whose page it is, so that one asker can drop its own pages and leave the
+    // others' alone.
+    void render(const QString& html, const QPageLayout& layout, Done done, PageOptions options = {},
+                int asker = 0);
     // Drops the waiting jobs; their callbacks are not called. The running one goes on.
     void cancelWaiting() { queue_.clear(); }
+    void cancelWaiting(int asker);
     // Drops the waiting jobs and stops the one running (on a fresh engine process, so that the
     // next page does not wait for the stopped one); their callbacks are not called.
     void cancelAll();
+    // Stops the running job when it is `asker`'s; the waiting ones go on.
+    void cancelRunning(int asker);
     bool isBusy() const { return running_ != nullptr; }
     // How long the running job has taken so far; 0 when idle.
     qint64 busyMilliseconds() const { return running_ ? started_.elapsed() : 0; }
@@ -90,6 +95,7 @@ private:
         QPageLayout layout;
         Done done;
         PageOptions options;
+        int asker = 0;
     };
     void startNext();
     void loaded(bool ok);
@@ -98,6 +104,7 @@ private:
     void timedOut();
     void resetPage();
     void dropEngine();
+    void stopRunning();
 
     QString localFolder_;
     Limits limits_;

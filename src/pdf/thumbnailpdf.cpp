@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QEventLoop>
+#include <QPainter>
 #include <QPdfDocument>
 #include <QTimer>
 
@@ -19,13 +20,21 @@ QImage ThumbnailPDF::thumbnailFromData(const QByteArray& data, QSize imageSize, 
         QObject::connect(&document, &QPdfDocument::statusChanged, &loop, &QEventLoop::quit);
         loop.exec();
     }
+    return thumbnailFromDocument(document, imageSize, indexPage);
+}
+
+QImage ThumbnailPDF::thumbnailFromDocument(QPdfDocument& document, QSize imageSize, int indexPage)
+{
     if (document.status() != QPdfDocument::Status::Ready || indexPage < 0 ||
         indexPage >= document.pageCount()) {
         return {};
     }
     const QSize size =
         document.pagePointSize(indexPage).toSize().scaled(imageSize, Qt::KeepAspectRatio);
-    return document.render(indexPage, size);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter(&image).drawImage(0, 0, document.render(indexPage, size));
+    return image;
 }
 
 void ThumbnailPDF::startWithCompletionHandler(const QByteArray& data, QSize imageSize,

@@ -5,6 +5,8 @@
 #include <QSize>
 #include <functional>
 
+class QPdfDocument;
+
 namespace tamo {
 
 // A picture of one page of a PDF, scaled to fit `imageSize` with the page's proportions kept.
@@ -12,6 +14,8 @@ namespace tamo {
 class ThumbnailPDF {
 public:
     static QImage thumbnailFromData(const QByteArray& data, QSize imageSize, int indexPage);
+    // The same from a document already open; what the page leaves unpainted is white paper.
+    static QImage thumbnailFromDocument(QPdfDocument& document, QSize imageSize, int indexPage);
     static QImage thumbnailFromData(const QByteArray& data, QSize imageSize)
     {
         return thumbnailFromData(data, imageSize, 0);

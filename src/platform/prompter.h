@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -39,5 +40,13 @@ public:
     virtual std::optional<QString> chooseFileToOpen(const FileRequest& request) = 0;
     virtual std::optional<QString> chooseFileToSave(const FileRequest& request) = 0;
 };
+
+// The notice of a step that failed unexpectedly: "Ooops!", the sentence, and "OK".
+inline void showOoops(Prompter& prompter, const QString& text)
+{
+    prompter.ask({QCoreApplication::translate("tamo::Prompter", "Ooops!"),
+                  text,
+                  {QCoreApplication::translate("tamo::Prompter", "OK")}});
+}
 
 }  // namespace tamo

@@ -47,17 +47,10 @@ int DesignLibrary::selectedIndex() const
     return stored >= 0 && stored < count ? stored : 0;
 }
 
-Record* DesignLibrary::currentDesign()
+Record* DesignLibrary::currentDesign() const
 {
-    const std::vector<Record*> list = designs();
     const int index = selectedIndex();
-    if (index < 0) {
-        return nullptr;
-    }
-    if (session_.settings().integer(key::selectedDesign) != index) {
-        selectDesign(index);
-    }
-    return list[size_t(index)];
+    return index < 0 ? nullptr : designs()[size_t(index)];
 }
 
 void DesignLibrary::setDesignInt()

@@ -22,9 +22,9 @@ public:
     std::vector<Record*> designs() const;
     // Position of the selected design; -1 when the list is empty.
     int selectedIndex() const;
-    // The selected design; when the stored position names none, the first is selected first.
-    // Nothing when there are no designs.
-    Record* currentDesign();
+    // The selected design; when the stored position names none, the first. Nothing when there
+    // are no designs.
+    Record* currentDesign() const;
     // Selects the design at the position `selectedDesign` keeps (out of range: the first).
     void setDesignInt();
     void selectDesign(int index);

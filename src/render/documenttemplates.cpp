@@ -121,7 +121,7 @@ bool DocumentTemplates::selectTemplate(const Record& documentTemplate)
 {
     Record* document = session_.documents().current();
     Context* c = session_.context();
-    if (!document || !c || DocumentLifecycle(session_).refuseChangesToSentDocument()) {
+    if (!document || !c || refuseChangesToSentDocument(session_)) {
         return false;
     }
     {

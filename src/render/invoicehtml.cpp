@@ -13,7 +13,9 @@
 #include "documents/lineitems.h"
 #include "model/appsession.h"
 #include "model/record.h"
+#include "model/taxkeys.h"
 #include "render/designlibrary.h"
+#include "render/pagelayout.h"
 
 Q_LOGGING_CATEGORY(lcRender, "tamo.render", QtInfoMsg)
 
@@ -83,27 +85,44 @@ const SettingKey& dueLabel(const Record* document, RenderMode mode)
     return key::locDue;
 }
 
+// The labels of the payment lines came after the starting values of the settings: until the
+// person sets them, they are the words of the language those values were taken in.
+QString paymentLabel(const Settings& s, const SettingKey& label)
+{
+    if (s.contains(label)) {
+        return s.string(label);
+    }
+    struct Words {
+        const char16_t* paid;
+        const char16_t* due;
+    };
+    static constexpr Words kWords[] = {{u"Paid", u"Amount due"},
+                                       {u"Bezahlt", u"Offener Betrag"},
+                                       {u"Payé", u"Reste à payer"},
+                                       {u"Pagado", u"Importe pendiente"}};
+    const int language = s.integer(key::languageDefaults);
+    const Words& words = kWords[language >= 0 && language < 4 ? language : 0];
+    return QString::fromUtf16(&label == &key::locPaid ? words.paid : words.due);
+}
+
 void fillTaxes(QString& page, const Record* document, const Settings& s)
 {
-    const SettingKey* enabled[] = {&key::tax1Enabled, &key::tax2Enabled, &key::tax3Enabled};
-    const SettingKey* titles[] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
     for (int n = 1; n <= 3; ++n) {
+        const TaxKeys& tax = kTaxes[size_t(n - 1)];
         const QString title = QStringLiteral("%TAX%1TITLE%").arg(n);
         const QString amount = QStringLiteral("%TAX%1%").arg(n);
         const QString rate = QStringLiteral("%TAX%1RATE%").arg(n);
         // The application's switch decides, not the document's own amount.
-        if (!s.boolean(*enabled[n - 1])) {
+        if (!s.boolean(*tax.enabled)) {
             replacePlaceholder(page, title, {});
             replacePlaceholder(page, amount, {});
             replacePlaceholder(page, rate, {});
             continue;
         }
-        const std::string prefix = "tax" + std::to_string(n);
-        replacePlaceholder(page, title, s.string(*titles[n - 1]));
-        replacePlaceholder(page, amount, money(document, prefix + "Amount"));
-        replacePlaceholder(
-            page, rate,
-            QString::asprintf("%.02f", double(percentOf(document, prefix + "Percent"))));
+        replacePlaceholder(page, title, s.string(*tax.titleSetting));
+        replacePlaceholder(page, amount, money(document, tax.amount));
+        replacePlaceholder(page, rate,
+                           QString::asprintf("%.02f", double(percentOf(document, tax.percent))));
     }
 }
 
@@ -113,8 +132,8 @@ void fillItemTaxes(QString& row, const Record& item, const Settings& s)
         const QString title = QStringLiteral("%ITEMSTAX%1TITLE%").arg(n);
         const QString percent = QStringLiteral("%ITEMSTAX%1PERCENT%").arg(n);
         const QString amount = QStringLiteral("%ITEMSTAX%1AMOUNT%").arg(n);
-        const std::string tax = "tax" + std::to_string(n);
-        if (!item.boolean("isTax" + std::to_string(n) + "Applied")) {
+        const TaxKeys& tax = kTaxes[size_t(n - 1)];
+        if (!item.boolean(tax.applied)) {
             replacePlaceholder(row, title, {});
             replacePlaceholder(row, percent, {});
             replacePlaceholder(row, amount, {});
@@ -125,15 +144,15 @@ void fillItemTaxes(QString& row, const Record& item, const Settings& s)
             u"%IKNOWITSWRONGBUTILIVEINTHEPASTITEMSINGLEGROSSAMOUNT%";
         if (row.contains(gross)) {
             const float base = float(item.decimal("baseAmount"));
-            const float rate = float(item.decimal(tax + "Percent"));
+            const float rate = float(item.decimal(tax.percent));
             replacePlaceholder(row, gross, stringFromNumber(double(base + base * rate)));
         }
-        replacePlaceholder(row, title, item.string(tax + "Title"));
+        replacePlaceholder(row, title, item.string(tax.title));
         replacePlaceholder(row, percent,
-                           decimalStringFromNumber(double(percentOf(&item, tax + "Percent"))));
+                           decimalStringFromNumber(double(percentOf(&item, tax.percent))));
         replacePlaceholder(
             row, amount,
-            s.boolean(key::showSingleTaxAmounts) ? money(&item, tax + "Amount") : QString());
+            s.boolean(key::showSingleTaxAmounts) ? money(&item, tax.amount) : QString());
     }
 }
 
@@ -308,6 +327,10 @@ QString fillPage(const PageInput& in, const Settings& s)
     replacePlaceholder(page, u"%LOCQUANTITY%", s.string(key::locQuantity));
     // The logo file is written whether or not the design shows it.
     replacePlaceholder(page, u"%LOGO%", logoMarkup(s, in.dataFolder));
+    // Tamo's own, after the steps designs have always had: what a part payment leaves due.
+    replacePlaceholder(page, u"%DUEAMOUNT%", money(d, "dueAmount"));
+    replacePlaceholder(page, u"%LOCPAID%", paymentLabel(s, key::locPaid));
+    replacePlaceholder(page, u"%LOCAMOUNTDUE%", paymentLabel(s, key::locAmountDue));
     return page;
 }
 
@@ -362,7 +385,13 @@ void InvoiceHtml::setMode(RenderMode mode, SheetTexts sheet)
 
 Record* InvoiceHtml::currentDesign()
 {
-    return designs_.currentDesign();
+    return design_ ? design_ : designs_.currentDesign();
+}
+
+QPageLayout InvoiceHtml::pageLayout()
+{
+    const Record* design = currentDesign();
+    return pageLayoutForDesign(session_.settings(), design ? design->string("css") : QString());
 }
 
 PageInput InvoiceHtml::input(const Record* document)

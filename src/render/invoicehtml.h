@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QPageLayout>
 #include <QString>
 #include <optional>
 #include <vector>
@@ -81,7 +82,13 @@ public:
     QString invoiceHTMLStringFromInvoice(const Record& document);
     QString itemsList();
     QString itemsListForInvoice(const Record& document);
+    // The design pages are filled in: the one given to useDesign, else the selected one.
     Record* currentDesign();
+    // The paper and margins for pages of the design in use.
+    QPageLayout pageLayout();
+    // Renders with `design` instead of the selected one, leaving the person's choice alone (a
+    // one-off rendering); nullptr returns to the selected design.
+    void useDesign(Record* design) { design_ = design; }
 
 private:
     PageInput input(const Record* document);
@@ -90,6 +97,7 @@ private:
     DesignLibrary& designs_;
     RenderMode mode_ = RenderMode::Document;
     SheetTexts sheet_;
+    Record* design_ = nullptr;
 };
 
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #include "render/pagelayout.h"
 
 #include <QPageSize>
+#include <QRegularExpression>
 
 namespace tamo {
 
@@ -31,6 +32,18 @@ QPageLayout pageLayoutFromSettings(const Settings& settings)
 {
     return pageLayoutFor(settings.integer(key::tempPaperSize),
                          settings.boolean(key::printBorderless));
+}
+
+bool designSetsPageMargins(const QString& css)
+{
+    static const QRegularExpression margins(QStringLiteral("@page\\s*\\{[^}]*\\bmargin\\b"));
+    return margins.match(css).hasMatch();
+}
+
+QPageLayout pageLayoutForDesign(const Settings& settings, const QString& css)
+{
+    return pageLayoutFor(settings.integer(key::tempPaperSize),
+                         settings.boolean(key::printBorderless) || designSetsPageMargins(css));
 }
 
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPageLayout>
+#include <QString>
 
 #include "settings/settings.h"
 
@@ -11,5 +12,12 @@ namespace tamo {
 // and 60 at the bottom.
 QPageLayout pageLayoutFor(int paperSize, bool borderless);
 QPageLayout pageLayoutFromSettings(const Settings& settings);
+
+// Whether a design's style sheet lays out the sheet itself (`@page { margin: … }`): it measures
+// its positions from the edge of the paper, as the window-envelope letters must.
+bool designSetsPageMargins(const QString& css);
+// The paper of the settings for a page of that design: without margins of Tamo's own when the
+// design sets its page margins itself, else as the settings say.
+QPageLayout pageLayoutForDesign(const Settings& settings, const QString& css);
 
 }  // namespace tamo

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "calc/numberformat.h"
-#include "documents/lifecycle.h"
+#include "calc/totals.h"
 #include "interchange/plistfile.h"
 #include "model/appsession.h"
 
@@ -219,7 +219,7 @@ void AccountBook::showPrintHint()
 
 std::unique_ptr<PrinterDocument> AccountBook::accountBookDocument()
 {
-    DocumentLifecycle(session_).refreshStatistics();
+    Totals(session_).refreshStatistics();
     return accountBookLayout(
         accountBookItems(session_.documents().arranged(), session_.settings()));
 }

@@ -8,7 +8,7 @@
 #include <charconv>
 
 #include "calc/numbering.h"
-#include "documents/lifecycle.h"
+#include "calc/totals.h"
 #include "model/appsession.h"
 
 Q_LOGGING_CATEGORY(lcReports, "tamo.reports", QtInfoMsg)
@@ -67,7 +67,7 @@ std::optional<ReportRange> SalesReport::rangeFromSettings() const
 
 SalesReport::Page SalesReport::generateReport(const std::optional<ReportRange>& range)
 {
-    DocumentLifecycle(session_).refreshStatistics();
+    Totals(session_).refreshStatistics();
     Page page;
     const auto documents = reportDocuments(session_.documents().arranged(), range);
     page.documents = int(documents.size());

@@ -78,6 +78,8 @@ struct SettingKey {
     X(locSKUNumber, Text)                             \
     X(locDescription, Text)                           \
     X(locQuantity, Text)                              \
+    X(locPaid, Text)                                  \
+    X(locAmountDue, Text)                             \
     X(tempUseSKU, Boolean)                            \
     X(isMainPreviewAction, Boolean)                   \
     /* What a new template takes over */              \

@@ -16,6 +16,9 @@ TEST(NumberFormatTest, MoneyHasTwoFractionDigitsAndTheLocalesSeparators)
     EXPECT_EQ(stringFromNumber(-0.5, german), u"-0,50");
     EXPECT_EQ(decimalStringFromNumber(10, german), u"10");
     EXPECT_EQ(decimalStringFromNumber(1234.5678, german), u"1.234,568");
+    // The C locale groups as Qt shows it in the list, and the sums of the status bar too.
+    EXPECT_EQ(stringFromNumber(1977, QLocale::c()), u"1,977.00");
+    EXPECT_EQ(stringFromNumber(double(60684364.0f), QLocale::c()), u"60,684,364.00");
 }
 
 TEST(NumberFormatTest, MoneyTextIsReadWhateverTheSeparators)

@@ -46,7 +46,7 @@ TEST_F(StatisticsTest, CountsOnlyTheListedDocuments)
     document(u"kind=1 status=1 amount=10 due=2026-03-02T09:00:00Z number=A");
     Record* hidden = document(u"kind=1 status=1 amount=20 due=2026-02-01T09:00:00Z number=B");
     document(u"kind=0 number=C");
-    session.documents().setFilter([](const Record& r) { return r.string("number") != u"B"; });
+    session.documents().setFilter(1, [](const Record& r) { return r.string("number") != u"B"; });
 
     totals.calculateDatabase();
     EXPECT_EQ(session.statistics(), (DocumentStatistics{10.0f, 0.0f, 0.0f, 1, 1, 1}));

@@ -157,15 +157,23 @@ TEST_F(ClientsTest, TheContactsButtonOpensTheLocationOrTheApplication)
     QFile entryFile(entry);
     ASSERT_TRUE(entryFile.open(QIODevice::WriteOnly));
 
+    // A missing address book is named; without one, and without a contacts application, Tamo
+    // offers to choose the vCard folder and keeps the choice.
+    prompter.queueAnswer(u"Cancel"_qs);
+    prompter.queueAnswer(u"Choose Folder…"_qs);
+    prompter.queueFile(kCards);
     for (const QString& location : {kCards, kCards + u"/none.vcf"_qs, QString()}) {
         settings.set(key::contactsLocation, location);
-        EXPECT_EQ(clients.contactsButtonAction(), location == kCards);
+        EXPECT_EQ(clients.contactsButtonAction(), location != kCards + u"/none.vcf"_qs);
     }
     EXPECT_EQ(opened, QStringList({u"file://"_qs + kCards, u"file://"_qs + entry}));
     ASSERT_EQ(prompter.alerts().size(), 2);
-    const QString missing = u"Application with bundle identifier '%1' not found."_qs;
-    EXPECT_EQ(prompter.alerts()[0].text, missing.arg(kCards + u"/none.vcf"_qs));
-    EXPECT_EQ(prompter.alerts()[1].text, missing.arg(u"org.gnome.Contacts"_qs));
+    EXPECT_EQ(prompter.alerts()[0].title, u"Hint!");
+    EXPECT_TRUE(prompter.alerts()[0].text.contains(kCards + u"/none.vcf"_qs));
+    EXPECT_TRUE(prompter.alerts()[1].text.contains(u"vCard"));
+    EXPECT_EQ(prompter.alerts()[1].buttons,
+              (QStringList{u"Choose vCard File…"_qs, u"Choose Folder…"_qs, u"Cancel"_qs}));
+    EXPECT_EQ(settings.string(key::contactsLocation), kCards);
     dataHome.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", dataHome);
 }
 

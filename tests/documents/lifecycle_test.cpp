@@ -1,5 +1,7 @@
-#include "documents/lifecycle.h"
+#include <functional>
+
 #include "calc/totals.h"
+#include "documents/lifecycle.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -218,13 +220,50 @@ TEST_F(LifecycleTest, FiltersListWhatTheirTagSays)
     EXPECT_EQ(session.documents().current()->uniqueID(), id);
 }
 
-TEST_F(LifecycleTest, ANewDocumentResetsTheFilterButtonButNotTheFilter)
+TEST_F(LifecycleTest, ANewDocumentIsListedAndCurrentWhateverTheFilterAndSearch)
 {
-    lifecycle.selectFilter(4);  // quotes only
+    Record* quote = lifecycle.addQuote();
     Record* invoice = lifecycle.addInvoice();
-    EXPECT_EQ(lifecycle.filterTag(), 0);
-    EXPECT_EQ(lifecycle.filterImageName(), u"torchTemplate");
-    EXPECT_EQ(session.documents().indexOf(invoice), -1);
+    prompter.queueAnswer(u"Convert"_qs);
+    DocumentList& list = session.documents();
+    // Each action starts from a list that would hide what it makes.
+    const std::pair<const char*, std::function<Record*()>> actions[] = {
+        {"new invoice",
+         [&] {
+             lifecycle.selectFilter(4);  // quotes only
+             return lifecycle.addInvoice();
+         }},
+        {"new quote",
+         [&] {
+             list.setSearchText(u"nothing matches this"_qs);
+             return lifecycle.addQuote();
+         }},
+        {"duplicate",
+         [&] {
+             invoice->setValue("status", 1);
+             lifecycle.selectFilter(1);  // open invoices: the copy is created
+             list.setSearchText(invoice->string("number"));
+             list.setSelection({invoice});
+             return lifecycle.duplicateInvoice(true);
+         }},
+        {"convert",
+         [&] {
+             lifecycle.selectFilter(4);  // the converted quote would leave the list
+             list.setSearchText(quote->string("number"));
+             list.setSelection({quote});
+             return lifecycle.convertQuoteToInvoice() ? quote : nullptr;
+         }},
+    };
+    for (const auto& [name, action] : actions) {
+        SCOPED_TRACE(name);
+        Record* d = action();
+        ASSERT_NE(d, nullptr);
+        EXPECT_EQ(lifecycle.filterTag(), 0);
+        EXPECT_EQ(lifecycle.filterImageName(), u"torchTemplate");
+        EXPECT_TRUE(list.searchText().isEmpty());
+        EXPECT_NE(list.indexOf(d), -1);
+        EXPECT_EQ(list.current(), d);
+    }
 }
 
 TEST_F(LifecycleTest, ReminderAndSlipTextsComeFromTheirSettings)

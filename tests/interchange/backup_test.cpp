@@ -44,10 +44,10 @@ TEST_F(BackupTest, RestoringTheSameInvoiceBackupTwiceLeavesOneCopy)
 TEST_F(BackupTest, AFilterLimitsWhatExportItemsWritesAndWhatARestoreDeletes)
 {
     user.queueFile(file(u"b.tamoinvoices"_qs));
-    session.documents().setFilter([](const Record& r) { return r.string("number") == u"B-1"; });
+    session.documents().setFilter(1, [](const Record& r) { return r.string("number") == u"B-1"; });
     ASSERT_EQ(ops.exportItems(), ActionResult::Done);  // only B-1, as a backup file
     session.documents().setFilter(
-        [](const Record& r) { return r.string("number").startsWith(u'A'); });
+        1, [](const Record& r) { return r.string("number").startsWith(u'A'); });
 
     user.queueFile(file(u"b.tamoinvoices"_qs));
     ASSERT_EQ(ops.restoreTamoData(), ActionResult::Done);

@@ -60,10 +60,10 @@ TEST_F(DocumentListTest, SearchAndFilterNarrowTheList)
     list.setContext(context.get());
     list.setSearchText(QStringLiteral("MÜLLER"));
     EXPECT_EQ(numbers(), (QStringList{u"AN-3"_qs, u"RE-2"_qs}));
-    list.setFilter([](const Record& r) { return r.integer("kind") == 1; });
+    list.setFilter(1, [](const Record& r) { return r.integer("kind") == 1; });
     EXPECT_EQ(numbers(), (QStringList{u"RE-2"_qs}));
     list.setSearchText({});
-    list.setFilter({});
+    list.setFilter(0, {});
     EXPECT_EQ(numbers().size(), 3);
 }
 

@@ -17,7 +17,7 @@ TEST(TransformersTest, StampsAndEditabilityFollowKindAndStatus)
         bool editable;
     };
     const Case cases[] = {
-        {0, 0, u"Stamp5", u"StampM5", true},  {0, 3, u"Stamp5", u"StampM5", true},
+        {0, 0, u"Stamp5", u"StampM5", true},  {0, 3, u"Stamp5", u"StampM5", false},
         {1, 0, u"Stamp0", u"StampM0", true},  {1, 1, u"Stamp1", u"StampM1", false},
         {1, 2, u"Stamp2", u"StampM2", false}, {1, 3, u"Stamp3", u"StampM3", false},
         {1, 4, u"Stamp4", u"StampM4", false}, {1, 9, u"Stamp0", u"StampM0", false},

@@ -1,5 +1,6 @@
 #include <QRegularExpression>
 
+#include "calc/numberformat.h"
 #include "interchange/keyedarchive.h"
 #include "render/designarchive.h"
 #include "render/renderfixture.h"
@@ -95,6 +96,38 @@ TEST_F(DesignTest, EveryShippedDesignFillsTheSampleCompletely)
         EXPECT_TRUE(page.contains(u"Nordlicht Studio GmbH"));
         EXPECT_TRUE(page.contains(u"Concept workshop"));
     }
+}
+
+// Designs that show a part payment show beneath it, labelled, what is still due; the labels are
+// the starting values' language until the person sets them.
+TEST_F(DesignTest, APartPaymentShowsWhatIsStillDue)
+{
+    Context& context = open();
+    applySampleSettings(settings);
+    Record* sample = insertSampleDocument(context, QDateTime(QDate(2026, 3, 5), QTime(12, 0)));
+    sample->setValue("status", 4);
+    sample->setValue("paidAmount", 500.0);
+    sample->setValue("dueAmount", sample->decimal("amount") - 500);
+    session.documents().setSelection({sample});
+    InvoiceHtml html(session, designs);
+    const QString due = stringFromNumber(sample->decimal("dueAmount"));
+    int showing = 0;
+    for (Record* design : designs.designs()) {
+        html.useDesign(design);
+        const QString page = html.invoiceHTMLStringFromInvoice(*sample);
+        if (!page.contains(u"−500.00")) {
+            continue;  // this design shows no payment
+        }
+        ++showing;
+        EXPECT_TRUE(page.contains(u"<th>Amount due</th><td>"_qs + due))
+            << design->string("title").toStdString();
+        EXPECT_TRUE(page.contains(u"✓ Paid")) << design->string("title").toStdString();
+    }
+    EXPECT_EQ(showing, 3);
+    settings.set(key::languageDefaults, 1);
+    EXPECT_TRUE(html.invoiceHTMLStringFromInvoice(*sample).contains(u"Offener Betrag"));
+    settings.set(key::locAmountDue, u"Still to pay"_qs);
+    EXPECT_TRUE(html.invoiceHTMLStringFromInvoice(*sample).contains(u"Still to pay"));
 }
 
 TEST_F(DesignTest, ExportAndImportRoundTripAndAnImportIsNeverTheDefault)

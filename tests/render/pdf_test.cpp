@@ -270,6 +270,87 @@ TEST_F(PdfTest, RecordsAndDesignsCannotScriptThePrintedPage)
     EXPECT_FALSE(preview.contains(u"PREVIEW-SCRIPT-RAN"));
 }
 
+// The window letters put the address into the envelope's window on A4 however the settings print:
+// the address zone of the address field, measured on the page.
+TEST_F(PdfTest, TheWindowLettersPutTheAddressIntoTheWindow)
+{
+    settings.set(key::tempPaperSize, 2);
+    const double mm = 72 / 25.4;
+    struct Case {
+        const char16_t* design;
+        double zoneTop;  // the address zone: the lower 27.3 mm of the 45 mm field
+    };
+    const Case cases[] = {{u"DIN 5008 Letter, Form A", 27 + 17.7},
+                          {u"DIN 5008 Letter, Form B", 45 + 17.7}};
+    for (const Case& c : cases) {
+        for (const bool borderless : {false, true}) {
+            SCOPED_TRACE(testing::Message() << QString::fromUtf16(c.design).toStdString()
+                                            << (borderless ? " borderless" : " with margins"));
+            settings.set(key::printBorderless, borderless);
+            Record* letter = nullptr;
+            for (Record* d : designs.designs()) {
+                letter = d->string("title") == QStringView(c.design) ? d : letter;
+            }
+            ASSERT_NE(letter, nullptr);
+            html.useDesign(letter);
+            auto pdf =
+                load(renderer.renderAndWait(html.invoiceHTMLString(), html.pageLayout()).value());
+            const QString words = pdf->getAllText(0).text();
+            for (const char16_t* line : {u"Attn. Mara Lindqvist", u"20457 Hamburg"}) {
+                const qsizetype at = words.indexOf(QStringView(line));
+                ASSERT_GE(at, 0);
+                const QRectF box =
+                    pdf->getSelectionAtIndex(0, int(at), int(QStringView(line).size()))
+                        .boundingRectangle();
+                EXPECT_NEAR(box.left() / mm, 25, 1.5);  // 5 mm inside the field at 20 mm
+                EXPECT_GE(box.top() / mm, c.zoneTop - 0.5);
+                EXPECT_LE(box.bottom() / mm, c.zoneTop + 27.3 + 0.5);
+            }
+        }
+    }
+}
+
+// Borderless, the sidebar runs to the edges of the sheet; the letter's text does not.
+TEST_F(PdfTest, TheSidebarKeepsTheTextOffTheEdges)
+{
+    settings.set(key::tempPaperSize, 2);
+    settings.set(key::printBorderless, true);
+    for (Record* d : designs.designs()) {
+        if (d->string("title") == u"Sidebar") {
+            html.useDesign(d);
+        }
+    }
+    ASSERT_NE(html.currentDesign(), nullptr);
+    ASSERT_EQ(html.currentDesign()->string("title"), u"Sidebar");
+    {
+        // Enough lines for a second page.
+        for (int i = 0; i < 30; ++i) {
+            Record* line = context->insert("Item");
+            line->setValue("title", QStringLiteral("Extra line %1").arg(i));
+            line->setValue("unitCount", 1.0);
+            line->setValue("baseAmount", 10.0);
+            line->setToOne("invoice", sample);
+        }
+    }
+    auto pdf = load(renderer.renderAndWait(html.invoiceHTMLString(), html.pageLayout()).value());
+    ASSERT_GE(pdf->pageCount(), 2);
+    const double mm = 72 / 25.4;
+    for (int page = 0; page < pdf->pageCount(); ++page) {
+        const QImage image = pdf->render(page, pdf->pagePointSize(page).toSize());
+        const int w = image.width(), h = image.height();
+        EXPECT_LT(qGray(image.pixel(2, h / 2)), 100) << "the column bleeds, page " << page;
+        int inked = 0;
+        for (int x = int(50 * mm); x < w; ++x) {
+            for (int y = 0; y < h; ++y) {
+                const bool band = x > w - 6 * mm || y < 6 * mm || y > h - 6 * mm;
+                const QRgb p = image.pixel(x, y);
+                inked += band && qAlpha(p) > 128 && qGray(p) < 160 ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(inked, 0) << "text within 6 mm of an edge on page " << page;
+    }
+}
+
 TEST_F(PdfTest, ThePreviewFollowsTheModesAndTheChooser)
 {
     QSignalSpy ready(&output, &PdfOutput::previewReady);

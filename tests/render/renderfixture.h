@@ -82,6 +82,7 @@ protected:
         d->setValue("subAmount", 1234.5);
         d->setValue("amount", 1469.06);
         d->setValue("paidAmount", 200.0);
+        d->setValue("dueAmount", 1269.06);  // partly paid
         d->setValue("tax1Percent", 0.19);
         d->setValue("tax2Percent", 0.07);
         d->setValue("tax3Percent", 0.05);

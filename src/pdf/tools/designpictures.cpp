@@ -77,10 +77,9 @@ int main(int argc, char** argv)
     const QStringList names = builtInDesignNames();
     for (int i = 0; i < int(designs.designs().size()); ++i) {
         designs.selectDesign(i);
-        // As each design's notes ask: the window letters and the sidebar are made borderless.
-        const bool borderless = designs.currentDesign()->string("css").contains(u"borderless");
-        auto pdf =
-            renderer.renderAndWait(html.invoiceHTMLString(), pageLayoutFor(paper, borderless));
+        // The window letters and the sidebar lay out the sheet themselves.
+        const bool own = designSetsPageMargins(designs.currentDesign()->string("css"));
+        auto pdf = renderer.renderAndWait(html.invoiceHTMLString(), pageLayoutFor(paper, own));
         if (!pdf) {
             err << names.value(i) << ": " << pdf.error().text() << '\n';
             return 1;
