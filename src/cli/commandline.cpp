@@ -152,7 +152,8 @@ const CommandEntry kCommands[] = {
     {u"backup-items FILE", u"XML property list, .tamoitems", true, backupItemsCommand},
     {u"restore-items FILE", nullptr, true, restoreItemsCommand},
     {u"export-xml FILE", u"every invoice", true, exportXmlCommand},
-    {u"export-shown-xml FILE", u"the listed invoices", true, exportShownXmlCommand},
+    {u"export-shown-xml FILE [--filter TAG] [--search TEXT]", u"the listed invoices", true,
+     exportShownXmlCommand},
     {u"backup-complete FILE", u"the store file, .tamo2db", true, backupCompleteCommand},
     {u"restore-complete FILE", nullptr, false, restoreCompleteCommand},
     {u"dump FILE", u"keyed archive of every invoice, .invdump", true, dumpCommand},
@@ -165,7 +166,9 @@ const CommandEntry kCommands[] = {
      moveStoreCommand},
     {u"safety-copy [--at-start]", nullptr, true, safetyCopyCommand},
     {u"restore-safety-copy", nullptr, true, restoreSafetyCopyCommand},
-    {u"recover [SNAPSHOT]", u"without SNAPSHOT: lists the recovery copies", false, recoverCommand},
+    {u"recover [COPY]",
+     u"without COPY: lists the recovery copies; COPY is a copy's number, file name or path", false,
+     recoverCommand},
     {u"open FILE", u"answers as when the desktop opens a file: a design is offered for import",
      true, openFileCommand},
     {u"new-invoice", nullptr, true, newInvoiceCommand},
@@ -173,7 +176,9 @@ const CommandEntry kCommands[] = {
     {u"duplicate N [--with-items]", nullptr, true, duplicateCommand},
     {u"convert N", u"a quote into an invoice", true, convertCommand},
     {u"delete N [--adjust-counter]", nullptr, true, deleteCommand},
-    {u"set-status N 0..4 [--paid-amount X]", nullptr, true, setStatusCommand},
+    {u"set-status N STATUS [--paid-amount X]",
+     u"STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)",
+     true, setStatusCommand},
     {u"dispatch N", nullptr, true, dispatchCommand},
     {u"filter TAG [--json]", u"0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent", true,
      filterCommand},
@@ -182,6 +187,16 @@ const CommandEntry kCommands[] = {
      nullptr, true, addItemCommand},
     {u"set-client N (--vcard FILE [--index I] | --remembered ID)", u"I counts from 0", true,
      setClientCommand},
+    {u"set N KEY=VALUE ...",
+     u"the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, "
+     u"e-invoice buyer; dates as 2026-03-05, percentages as 10",
+     true, setCommand},
+    {u"lines N", u"the document's lines, numbered as edit-line and delete-line take them", true,
+     linesCommand},
+    {u"edit-line N LINE KEY=VALUE ...",
+     u"KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)", true,
+     editLineCommand},
+    {u"delete-line N LINE", nullptr, true, deleteLineCommand},
     {u"einvoice N FILE [--force] [--conformant] [--standard]",
      u"XRechnung XML of document N, after the readiness check; --conformant writes the file the "
      u"EN 16931 rules require (default: setting prefsEvoiceConformantBool)",
@@ -193,8 +208,8 @@ const CommandEntry kCommands[] = {
     {u"einvoice-notice", nullptr, false, einvoiceNoticeCommand},
     {u"render N (--html FILE|- | --pdf FILE) [--reminder | --slip] [--design INDEX|TITLE]", nullptr,
      true, renderCommand},
-    {u"export-pdfs DIR [--filter TAG]", u"every listed document, DIR/NUMBER_N.pdf", true,
-     exportPdfsCommand},
+    {u"export-pdfs DIR [--filter TAG] [--search TEXT]", u"every listed document, DIR/NUMBER_N.pdf",
+     true, exportPdfsCommand},
     {u"designs list | add | import FILE | export INDEX FILE | default INDEX | select INDEX | "
      u"delete INDEX",
      nullptr, true, designsCommand},
@@ -382,21 +397,39 @@ int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, bool
         if (!context) {
             return 1;  // the prompter has said why
         }
+        // A command on the store is a run of the application: it starts as the window does
+        // (without the window's sheets) and quits as it does, so that the next start knows how
+        // this run ended and how many invoices it left.
+        session.applicationDidFinishLaunching();
         // The window runs the statistics pass when it lists the documents; numbering and the
         // open/overdue states depend on it.
         WithoutUndo automatic(*context);
         Totals(session).calculateDatabase();
     }
-    if (auto failure = body(session)) {
-        if (!failure->message.isEmpty()) {
-            err << "tamo: " << failure->message << '\n';
+    const auto report = [&](const QString& message, int code) {
+        if (!message.isEmpty()) {
+            err << "tamo: " << message << '\n';
             err.flush();
         }
-        return failure->code;
-    }
+        return code;
+    };
+    std::optional<Failure> failure = body(session);
     out.flush();
-    if (!session.saveContext()) {
+    // A command that failed keeps nothing of what it began.
+    if (failure && session.context()) {
+        session.context()->rollback();
+    }
+    // Commands that replace the store open it on their own; they end as a run on it too.
+    if (session.context()) {
+        if (session.applicationShouldTerminate() == AppSession::TerminateReply::Cancel) {
+            return failure ? report(failure->message, failure->code) : 1;
+        }
+        session.applicationWillTerminate();
+    } else if (!session.saveContext()) {
         return 1;
+    }
+    if (failure) {
+        return report(failure->message, failure->code);
     }
     return prompter.errorCount() > 0 ? 1 : 0;
 }

@@ -21,6 +21,10 @@ std::expected<Record*, Failure> findDocument(AppSession& session, const QString&
 // act on the current document.
 std::expected<Record*, Failure> selectDocument(AppSession& session, const QString& numberOrID);
 
+// Narrows the list by --filter TAG and --search TEXT when the command was given them, as the
+// window's filter menu and search field do.
+std::optional<Failure> arrangeList(AppSession& session, const CommandArgs& args);
+
 // A command runs on an open session (the store is open when it needs one) with its words already
 // checked against its synopsis, writes its result to `out` and returns a failure or nothing. The
 // session saves after it.
@@ -84,6 +88,12 @@ std::optional<Failure> exportDocumentCommand(AppSession&, const CommandArgs&, QT
 // Lines and clients of a document (linecommands.cpp).
 std::optional<Failure> addItemCommand(AppSession&, const CommandArgs&, QTextStream&);
 std::optional<Failure> setClientCommand(AppSession&, const CommandArgs&, QTextStream&);
+
+// The document's fields and lines as the editor edits them (editcommands.cpp).
+std::optional<Failure> setCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> linesCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> editLineCommand(AppSession&, const CommandArgs&, QTextStream&);
+std::optional<Failure> deleteLineCommand(AppSession&, const CommandArgs&, QTextStream&);
 
 // Pages, PDF files and designs (rendercommands.cpp). The commands that print pages need the web
 // engine, so `main` runs them in a GUI application off screen.

@@ -106,9 +106,11 @@ std::optional<Failure> setStatusCommand(AppSession& session, const CommandArgs& 
 {
     bool ok = false;
     const int status = args.operand(1).toInt(&ok);
-    if (args.operandCount() == 2 && (!ok || status < 0 || status > 4)) {
-        return args.usage(
-            QStringLiteral("the status is a number from 0 to 4, not %1").arg(args.operand(1)));
+    // As in the window: overdue follows from the due date, never from a choice.
+    if (args.operandCount() == 2 && (!ok || status < 0 || status > 4 || status == 2)) {
+        return args.usage(QStringLiteral("the status is 0, 1, 3 or 4 (overdue follows from the "
+                                         "due date), not %1")
+                              .arg(args.operand(1)));
     }
     std::optional<double> paid;
     if (args.has(u"--paid-amount"_qs)) {

@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "documents/lifecycle.h"
 #include "model/appsession.h"
 
 namespace tamo {
@@ -27,6 +28,22 @@ std::expected<Record*, Failure> selectDocument(AppSession& session, const QStrin
         session.documents().setSelection({*document});
     }
     return document;
+}
+
+std::optional<Failure> arrangeList(AppSession& session, const CommandArgs& args)
+{
+    if (args.has(u"--filter"_qs)) {
+        bool ok = false;
+        const int tag = args.value(u"--filter"_qs).toInt(&ok);
+        if (!ok || tag < 0 || tag > 8) {
+            return args.usage(u"TAG is a number from 0 to 8"_qs);
+        }
+        DocumentLifecycle(session).selectFilter(tag);
+    }
+    if (args.has(u"--search"_qs)) {
+        session.documents().setSearchText(args.value(u"--search"_qs));
+    }
+    return std::nullopt;
 }
 
 }  // namespace tamo

@@ -78,6 +78,9 @@ std::optional<Failure> exportXmlCommand(AppSession& s, const CommandArgs& a, QTe
 
 std::optional<Failure> exportShownXmlCommand(AppSession& s, const CommandArgs& a, QTextStream&)
 {
+    if (auto failure = arrangeList(s, a)) {
+        return failure;
+    }
     return run(s, a, &DataInterchange::exportItems);
 }
 
@@ -153,10 +156,20 @@ std::optional<Failure> recoverCommand(AppSession& session, const CommandArgs& ar
         }
         return std::nullopt;
     }
-    // A snapshot is named by its path or by its file name in the recovery folder.
+    // A copy is named by its number (as listed), its file name in the recovery folder or its
+    // path.
     QString path = args.operand(0);
     if (!QFileInfo::exists(path)) {
-        path = QDir(session.profile().recoveryFolder).filePath(path);
+        bool number = false;
+        const int wanted = path.toInt(&number);
+        for (const QString& snapshot : snapshots) {
+            if (number && QFileInfo(snapshot).fileName().section(u' ', 0, 0).toInt() == wanted) {
+                path = snapshot;
+            }
+        }
+        if (!QFileInfo::exists(path)) {
+            path = QDir(session.profile().recoveryFolder).filePath(path);
+        }
     }
     return runWithFile(session, path, u"recover"_qs, &DataInterchange::recoverPreviousDatabase);
 }

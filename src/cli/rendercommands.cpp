@@ -67,14 +67,14 @@ std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& arg
         return document.error();
     }
     DesignLibrary designs(session);
+    InvoiceHtml renderer(session, designs);
     if (!design.isEmpty()) {
         auto index = designIndex(designs, design);
         if (!index) {
             return index.error();
         }
-        designs.selectDesign(*index);
+        renderer.useDesign(designs.designs()[size_t(*index)]);  // the choice stays as it was
     }
-    InvoiceHtml renderer(session, designs);
     DocumentLifecycle lifecycle(session);
     renderer.setMode(mode, mode == RenderMode::Reminder ? lifecycle.reminderSheetTexts()
                            : mode == RenderMode::Slip   ? lifecycle.slipSheetTexts()
@@ -103,21 +103,15 @@ std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& arg
 std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs& args,
                                          QTextStream& out)
 {
-    const bool filtered = args.has(u"--filter"_qs);
-    bool tagOk = true;
-    const int tag = filtered ? args.value(u"--filter"_qs).toInt(&tagOk) : 0;
     if (args.operandCount() != 1) {
         return args.usage();
     }
-    if (!tagOk || tag < 0 || tag > 8) {
-        return args.usage(u"TAG is a number from 0 to 8"_qs);
+    if (auto failure = arrangeList(session, args)) {
+        return failure;
     }
     const QString folder = QFileInfo(args.operand(0)).absoluteFilePath();
     if (!QDir().mkpath(folder)) {
         return Failure{QStringLiteral("cannot create the folder %1").arg(folder)};
-    }
-    if (filtered) {
-        DocumentLifecycle(session).selectFilter(tag);
     }
     DesignLibrary designs(session);
     InvoiceHtml html(session, designs);
@@ -129,7 +123,7 @@ std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs&
         workers.push_back(renderers.back().get());
     }
     PdfExportQueue queue(workers);
-    const QPageLayout layout = pageLayoutFromSettings(session.settings());
+    const QPageLayout layout = html.pageLayout();
     long number = 0;
     for (const Record* document : documents) {
         queue.add({html.invoiceHTMLStringFromInvoice(*document),

@@ -17,23 +17,6 @@ namespace tamo {
 
 namespace {
 
-// Applies --filter and --search to the list, as the window's filter menu and search field do.
-std::optional<Failure> arrangeList(AppSession& session, const CommandArgs& args)
-{
-    if (args.has(u"--filter"_qs)) {
-        bool ok = false;
-        const int tag = args.value(u"--filter"_qs).toInt(&ok);
-        if (!ok || tag < 0 || tag > 8) {
-            return args.usage(u"TAG is a number from 0 to 8"_qs);
-        }
-        DocumentLifecycle(session).selectFilter(tag);
-    }
-    if (args.has(u"--search"_qs)) {
-        session.documents().setSearchText(args.value(u"--search"_qs));
-    }
-    return std::nullopt;
-}
-
 // A day ("2026-03-01", counted whole: from its first moment or to its last) or a moment
 // ("2026-03-01T12:00"), in local time.
 std::optional<QDateTime> readDate(const QString& text, bool endOfDay)

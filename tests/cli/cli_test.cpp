@@ -80,7 +80,12 @@ TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
         {{u"render"_qs, u"1"_qs, u"--pdf"_qs}, 2, u"tamo: render: --pdf needs a value"},
         {{u"set-status"_qs, u"1"_qs, u"7"_qs},
          2,
-         u"tamo: set-status: the status is a number from 0 to 4, not 7"},
+         u"tamo: set-status: the status is 0, 1, 3 or 4 (overdue follows from the due date), "
+         u"not 7"},
+        {{u"set-status"_qs, u"1"_qs, u"2"_qs},
+         2,
+         u"tamo: set-status: the status is 0, 1, 3 or 4 (overdue follows from the due date), "
+         u"not 2"},
         {{u"new-invoice"_qs, u"extra"_qs}, 2, u"tamo: usage: tamo new-invoice"},
     };
     for (const Case& c : cases) {

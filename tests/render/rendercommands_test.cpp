@@ -76,11 +76,13 @@ TEST_F(RenderCommandsTest, ADocumentBecomesHtmlOrPdfInEachMode)
     EXPECT_TRUE(page.out.contains(number));
 
     const QString pdf = dir.path(u"slip.pdf"_qs);
+    ASSERT_EQ(tamo({u"designs"_qs, u"select"_qs, u"2"_qs}).code, 0);
     const CommandOutcome slip =
         tamo({u"render"_qs, number, u"--pdf"_qs, pdf, u"--slip"_qs, u"--design"_qs, u"6"_qs});
     ASSERT_EQ(slip.code, 0) << slip.err.toStdString();
     EXPECT_TRUE(pdfText(pdf).contains(number));
-    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"selectedDesign"_qs}).out, u"6\n");
+    // A one-off rendering leaves the person's choice of design alone.
+    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"selectedDesign"_qs}).out, u"2\n");
 
     EXPECT_EQ(tamo({u"render"_qs, number}).code, kUsageError);
     EXPECT_EQ(tamo({u"render"_qs, number, u"--pdf"_qs, pdf, u"--reminder"_qs, u"--slip"_qs}).code,
