@@ -128,7 +128,7 @@ int main(int argc, char** argv)
         }
         p.setProcessEnvironment(env);
         p.setProcessChannelMode(QProcess::ForwardedChannels);
-        p.start(windowBench, {store});
+        p.start(windowBench, {store, u"--memory-only"_qs});
         p.waitForFinished(120'000);
     }
     return 0;

@@ -35,11 +35,8 @@ DesignChooser::DesignChooser(DesignLibrary& designs, PdfOutput& output, QWidget*
         setTemplateOKButtonEnabled(true);
     });
     // A failed preview has been reported; the choice may still be kept.
-    connect(&output_, &PdfOutput::busyChanged, this, [this](bool busy) {
-        if (!busy) {
-            setTemplateOKButtonEnabled(true);
-        }
-    });
+    connect(&output_, &PdfOutput::templatePreviewFailed, this,
+            [this] { setTemplateOKButtonEnabled(true); });
 
     auto* row = new QHBoxLayout;
     row->addWidget(list_);
@@ -77,10 +74,15 @@ void DesignChooser::closeTemplateSheet(bool keep)
         accept();
         return;
     }
+    reject();
+}
+
+void DesignChooser::reject()
+{
     if (original_ >= 0) {
         designs_.selectDesign(original_);
     }
-    reject();
+    QDialog::reject();
 }
 
 }  // namespace tamo

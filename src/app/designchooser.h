@@ -24,6 +24,9 @@ public:
     void setTemplateOKButtonEnabled(bool enabled);
     QListWidget* list() const { return list_; }
     QPushButton* okButton() const { return ok_; }
+    PreviewPane* preview() const { return preview_; }
+    // Escape and the window's close button cancel too.
+    void reject() override;
 
 private:
     DesignLibrary& designs_;

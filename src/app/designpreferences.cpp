@@ -217,16 +217,15 @@ void DesignPane::previewDesign()
     input.dataFolder = session_.applicationDataDirectory();
     renderer_->cancelAll();
     renderer_->render(
-        fillPage(input, session_.settings()), pageLayoutFromSettings(session_.settings()),
+        fillPage(input, session_.settings()),
+        pageLayoutForDesign(session_.settings(), editors_[2]->toPlainText()),
         [this](const Result<QByteArray>& pdf) {
             if (pdf) {
                 showPreview(*pdf);
             } else {
-                session_.prompter().ask({tr("Ooops!"),
-                                         tr("Something went really wrong while creating the design "
-                                            "preview.") +
-                                             u"\n\n"_qs + pdf.error().text(),
-                                         {tr("OK")}});
+                showOoops(session_.prompter(),
+                          tr("Something went really wrong while creating the design preview.") +
+                              u"\n\n"_qs + pdf.error().text());
             }
         });
 }

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include "calc/numberformat.h"
 #include "model/documentlist.h"
 #include "model/transformers.h"
 
@@ -69,7 +70,7 @@ QVariant DocumentTableModel::data(const QModelIndex& index, int role) const
         case Due:
             return locale.toString(d->date("due").toLocalTime().date(), QLocale::ShortFormat);
         case Amount:
-            return locale.toString(d->decimal("amount"), 'f', 2);
+            return stringFromNumber(d->decimal("amount"), locale);
         case Currency:
             return d->string("currency");
         default:

@@ -181,22 +181,6 @@ void EvoiceDetailsSheet::done(int code)
     QDialog::done(code);
 }
 
-namespace {
-
-QMenu* documentMenu(MainWindow& window)
-{
-    const QString name = QStringLiteral("documentMenu");
-    if (auto* menu = window.menuBar()->findChild<QMenu*>(name)) {
-        return menu;
-    }
-    auto* menu = new QMenu(QObject::tr("&Document"), window.menuBar());
-    menu->setObjectName(name);
-    window.menuBar()->addMenu(menu);
-    return menu;
-}
-
-}  // namespace
-
 EinvoiceWindowActions::EinvoiceWindowActions(MainWindow& window, AppSession& session)
     : QObject(&window), window_(window), session_(session), actions_(session)
 {
@@ -214,20 +198,14 @@ EinvoiceWindowActions::EinvoiceWindowActions(MainWindow& window, AppSession& ses
     connect(about, &QAction::triggered, this, &EinvoiceWindowActions::loadEvoiceAlertAction);
     documentActions_ = {exportAction, details};
 
-    QMenu* menu = documentMenu(window);
+    QMenu* menu = window.documentMenu();
     menu->addSeparator();
     menu->addActions({exportAction, details, about});
 
     window.addToolBarActions(documentActions_);
-    connect(&session.documents(), &DocumentList::selectionChanged, this,
-            &EinvoiceWindowActions::updateActions);
-    updateActions();
-}
-
-void EinvoiceWindowActions::updateActions()
-{
+    // An e-invoice is written once, for an invoice; its details are locked with the invoice.
     for (QAction* a : documentActions_) {
-        a->setEnabled(session_.documents().current() != nullptr);
+        window.setActionNeeds(a, MainWindow::Needs::UnsentInvoice);
     }
 }
 

@@ -100,8 +100,6 @@ private:
     // The sheets' two ways out, after the guard and the rule check.
     void sendEinvoice(EvoiceGenerateSheet::Code how, const EinvoiceOptions& options);
 
-    void updateActions();
-
     MainWindow& window_;
     AppSession& session_;
     EinvoiceActions actions_;

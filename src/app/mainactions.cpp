@@ -123,10 +123,11 @@ void MainWindow::createActions()
     view->addSeparator();
     view->addMenu(createFilterMenu());
 
-    // Other areas add their entries to this menu by its object name.
+    // Other areas add their entries to this menu.
     auto* document = new QMenu(tr("&Document"), menuBar());
     document->setObjectName(QStringLiteral("documentMenu"));
     menuBar()->addMenu(document);
+    documentMenu_ = document;
     QAction* duplicate =
         makeAction(document, tr("D&uplicate"), "duplicate", "edit-copy",
                    QKeySequence(Qt::CTRL | Qt::Key_D), [&life] { life.duplicateInvoice(false); });
@@ -169,15 +170,24 @@ void MainWindow::createActions()
     QAction* notify = makeAction(document, tr("Due-Date &Notification…"), "notification",
                                  "appointment-new", none, [this] { openNotificationSheet(); });
 
-    storeActions_ = {newInvoice, newQuote, save};
-    documentActions_ = {duplicate, duplicateLines, convert,  remove,   client, line,
-                        shipping,  discount,       dispatch, reminder, slip,   notify};
+    for (QAction* a : {newInvoice, newQuote, save}) {
+        setActionNeeds(a, Needs::Store);
+    }
+    for (QAction* a : {duplicate, duplicateLines, reminder, slip, notify}) {
+        setActionNeeds(a, Needs::Document);
+    }
+    // A sent document shows its lock: what would only answer with the "already sent" alert is
+    // not offered.
+    for (QAction* a : {client, line, shipping, discount, dispatch}) {
+        setActionNeeds(a, Needs::Unsent);
+    }
+    setActionNeeds(convert, Needs::Quote);
+    setActionNeeds(remove, Needs::Deletable);
 
     newInvoice->setIconText(tr("Invoice"));
     newQuote->setIconText(tr("Quote"));
     newQuote->setIcon(QIcon::fromTheme(QStringLiteral("x-office-document")));
     duplicate->setIconText(tr("Duplicate"));
-    remove->setIconText(tr("Delete"));
     QToolBar* bar = addToolBar(tr("Main"));
     bar->setObjectName(QStringLiteral("mainToolBar"));
     bar->setMovable(false);
@@ -227,19 +237,46 @@ void MainWindow::updateFilterButton()
     }
 }
 
+void MainWindow::setActionNeeds(QAction* action, Needs needs)
+{
+    needs_.emplace_back(action, needs);
+    updateActions();
+}
+
 void MainWindow::updateActions()
 {
     Context* context = session_.context();
     const bool open = context != nullptr;
-    const bool current = open && session_.documents().current() != nullptr;
-    for (QAction* a : storeActions_) {
-        a->setEnabled(open);
-    }
-    for (QAction* a : documentActions_) {
-        a->setEnabled(current);
+    const Record* current = open ? session_.documents().current() : nullptr;
+    const bool quote = current && current->integer("kind") == 0;
+    const bool sent = current && current->integer("status") > 0;
+    for (const auto& [a, needs] : needs_) {
+        switch (needs) {
+        case Needs::Store:
+            a->setEnabled(open);
+            break;
+        case Needs::Document:
+            a->setEnabled(current);
+            break;
+        case Needs::Unsent:
+            a->setEnabled(current && !sent);
+            break;
+        case Needs::Quote:
+            a->setEnabled(quote);
+            break;
+        case Needs::UnsentInvoice:
+            a->setEnabled(current && !quote && !sent);
+            break;
+        case Needs::Deletable:
+            a->setEnabled(current && (quote || !sent));
+            break;
+        }
     }
     filter_->setEnabled(open);
-    action(QStringLiteral("deleteInvoice"))->setText(operations_.lifecycle.deleteActionTitle());
+    // The toolbar shows the same name as the menu: "Delete Invoice" or "Delete Quote".
+    QAction* remove = action(QStringLiteral("deleteInvoice"));
+    remove->setText(operations_.lifecycle.deleteActionTitle());
+    remove->setIconText(remove->text());
 
     QAction* undo = action(QStringLiteral("undo"));
     QAction* redo = action(QStringLiteral("redo"));

@@ -7,11 +7,13 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTableView>
 
 #include "app/documentoperations.h"
+#include "app/documenttable.h"
 #include "app/documenttablemodel.h"
 #include "app/editor/documenteditor.h"
 #include "calc/numberformat.h"
@@ -52,7 +54,7 @@ MainWindow::MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> 
       ownOperations_(std::move(own)),
       operations_(operations ? *operations : *ownOperations_),
       model_(new DocumentTableModel(session.documents(), this)),
-      table_(new QTableView(this)),
+      table_(new DocumentTable(this)),
       search_(new QLineEdit(this)),
       editor_(new DocumentEditor(session, operations_, this)),
       summary_(new QLabel(this))
@@ -170,15 +172,7 @@ void MainWindow::updateWindowTitle()
 
 void MainWindow::updateStatistics()
 {
-    Context* context = session_.context();
-    if (!context) {
-        return;
-    }
-    // Open and overdue follow from the clock, not from anything the user did, so moving an
-    // invoice between them is not an undoable step.
-    WithoutUndo automatic(*context);
-    UndoGroup group(*context, {});
-    Totals(session_).calculateDatabase();
+    Totals(session_).refreshStatistics();
 }
 
 void MainWindow::updateSummary()
@@ -237,10 +231,37 @@ void MainWindow::restoreLayout()
     if (!restoreGeometry(s.value(kWindowGeometry).toByteArray())) {
         resize(1280, 780);
     }
+    keepOnScreen();
     restoreState(s.value(kWindowState).toByteArray());
     table_->horizontalHeader()->restoreState(s.value(kDocumentTableHeader).toByteArray());
     if (auto* splitter = qobject_cast<QSplitter*>(centralWidget())) {
         splitter->restoreState(s.value(kSplitterState).toByteArray());
+    }
+}
+
+void MainWindow::keepOnScreen()
+{
+    // Geometry saved on another screen, or at another scale, may not fit this one.
+    const QScreen* screen = QGuiApplication::screenAt(geometry().center());
+    if (!screen) {
+        screen = this->screen();
+    }
+    const QRect available = screen->availableGeometry();
+    const bool maximized = windowState() & Qt::WindowMaximized;
+    QRect normal = maximized ? normalGeometry() : geometry();
+    if (available.contains(normal)) {
+        return;
+    }
+    normal.setSize(normal.size().boundedTo(available.size()));
+    normal.moveTopLeft(QPoint(
+        std::clamp(normal.left(), available.left(), available.right() + 1 - normal.width()),
+        std::clamp(normal.top(), available.top(), available.bottom() + 1 - normal.height())));
+    if (maximized) {
+        setWindowState(windowState() & ~Qt::WindowMaximized);
+    }
+    setGeometry(normal);
+    if (maximized) {
+        setWindowState(windowState() | Qt::WindowMaximized);
     }
 }
 

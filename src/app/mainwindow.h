@@ -25,6 +25,16 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
+    // What an action asks of the open store and the current document to be enabled.
+    enum class Needs {
+        Store,          // an open store
+        Document,       // a current document
+        Unsent,         // a current document that is not marked as sent
+        Quote,          // a current quote
+        UnsentInvoice,  // a current invoice that is not marked as sent
+        Deletable,      // a quote, or an invoice not marked as sent
+    };
+
     MainWindow(AppSession& session, DocumentOperations& operations, QWidget* parent = nullptr);
     // With operations of its own, for a window without notifications.
     explicit MainWindow(AppSession& session, QWidget* parent = nullptr);
@@ -37,6 +47,10 @@ public:
     QAction* action(const QString& name) const;
     // Adds a group of buttons to the main toolbar, after the others and a separator.
     void addToolBarActions(const QList<QAction*>& actions);
+    // The menu other areas add their document entries to.
+    QMenu* documentMenu() const { return documentMenu_; }
+    // Enables the action only while the window's state gives what it needs.
+    void setActionNeeds(QAction* action, Needs needs);
     // Asked before the window closes; false keeps it open.
     void setCloseGuard(std::function<bool()> guard) { closeGuard_ = std::move(guard); }
     // Lets the rendering add its button to the reminder and delivery-slip sheets.
@@ -47,6 +61,8 @@ public:
     }
     void restoreLayout();
     void saveLayout();
+    // Fits the window into the screen it stands on.
+    void keepOnScreen();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -84,8 +100,8 @@ private:
     QLabel* summary_;
     QAction* filter_ = nullptr;
     QActionGroup* filterChoices_ = nullptr;
-    QList<QAction*> documentActions_;  // need a current document
-    QList<QAction*> storeActions_;     // need an open store
+    QMenu* documentMenu_ = nullptr;
+    std::vector<std::pair<QAction*, Needs>> needs_;
     std::function<bool()> closeGuard_;
     VariantSheetExtension extendVariantSheet_;
     bool syncing_ = false;

@@ -2,10 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QPainter>
 #include <QPdfDocument>
 #include <QPdfPageNavigator>
 #include <QPdfView>
+
+#include "pdf/thumbnailpdf.h"
 
 namespace tamo {
 
@@ -63,19 +64,20 @@ void PreviewPane::showFile(const QString& path)
     }
 }
 
+void PreviewPane::clear()
+{
+    document_->close();
+    fillThumbnails();
+}
+
 void PreviewPane::fillThumbnails()
 {
     thumbnails_->clear();
     for (int page = 0; page < document_->pageCount(); ++page) {
-        const QSize size = document_->pagePointSize(page).toSize().scaled(thumbnails_->iconSize(),
-                                                                          Qt::KeepAspectRatio);
-        QImage image(size, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);  // what the page leaves unpainted is paper
-        QImage painted = document_->render(page, size);
-        QPainter(&image).drawImage(0, 0, painted);
-        auto* item =
-            new QListWidgetItem(QIcon(QPixmap::fromImage(image)), QString::number(page + 1));
-        thumbnails_->addItem(item);
+        const QImage image =
+            ThumbnailPDF::thumbnailFromDocument(*document_, thumbnails_->iconSize(), page);
+        thumbnails_->addItem(
+            new QListWidgetItem(QIcon(QPixmap::fromImage(image)), QString::number(page + 1)));
     }
     thumbnails_->setVisible(document_->pageCount() > 1);
 }

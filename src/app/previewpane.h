@@ -17,6 +17,8 @@ public:
 
     // Shows the file, staying on the page that was shown when there still is one.
     void showFile(const QString& path);
+    // Shows nothing.
+    void clear();
     QPdfDocument* document() const { return document_; }
     QPdfView* view() const { return view_; }
     int pageCount() const;

@@ -35,6 +35,7 @@ RenderWindowActions::RenderWindowActions(MainWindow& window, AppSession& session
                        QDockWidget::DockWidgetFloatable);
     window.addDockWidget(Qt::RightDockWidgetArea, dock_);
     connect(&output_, &PdfOutput::previewReady, pane_, &PreviewPane::showFile);
+    connect(&live_, &LivePreview::emptied, pane_, &PreviewPane::clear);
     connect(&output_, &PdfOutput::busyChanged, this, &RenderWindowActions::setBusy);
     // A hidden preview is not kept up to date; showing it again brings it up to date.
     connect(dock_, &QDockWidget::visibilityChanged, &live_, &LivePreview::setEnabled);
@@ -65,10 +66,7 @@ void RenderWindowActions::setBusy(bool busy)
 
 void RenderWindowActions::addActions()
 {
-    QMenu* document = window_.findChild<QMenu*>(QStringLiteral("documentMenu"));
-    if (!document) {
-        document = window_.menuBar()->addMenu(tr("&Document"));
-    }
+    QMenu* document = window_.documentMenu();
     document->addSeparator();
     const auto add = [&](QMenu* menu, const QString& text, const char* name,
                          const QKeySequence& keys, auto run) {
@@ -77,8 +75,10 @@ void RenderWindowActions::addActions()
         a->setShortcut(keys);
         return a;
     };
-    add(document, tr("Choose &Design…"), "chooseDesign", QKeySequence(Qt::CTRL | Qt::Key_T),
-        [this] { showTemplateSheet(); });
+    QAction* choose = add(document, tr("Choose &Design…"), "chooseDesign",
+                          QKeySequence(Qt::CTRL | Qt::Key_T), [this] { showTemplateSheet(); });
+    // Changing the design changes a sent document's look, which its lock forbids.
+    window_.setActionNeeds(choose, MainWindow::Needs::Unsent);
     add(document, tr("Document &Templates…"), "documentTemplates",
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T), [this] { showTemplatePopover(); });
     add(document, tr("Preview as Re&minder"), "previewReminder", {},
@@ -109,6 +109,9 @@ void RenderWindowActions::generateSlip(const SheetTexts& texts)
 
 void RenderWindowActions::showTemplateSheet()
 {
+    if (refuseChangesToSentDocument(session_)) {
+        return;
+    }
     DesignChooser sheet(designs_, output_, &window_);
     sheet.exec();
 }

@@ -105,8 +105,7 @@ void ReportWindowActions::printAccountBook()
     const bool printed = book->drawPages(printer);
     QApplication::restoreOverrideCursor();
     if (!printed) {
-        session_.prompter().ask(
-            {tr("Ooops!"), tr("The account book could not be printed."), {tr("OK")}});
+        showOoops(session_.prompter(), tr("The account book could not be printed."));
     }
 }
 

@@ -103,8 +103,9 @@ TEST_F(EditorWindowTest, ASentInvoiceChangesOnlyItsStatusAndPayment)
     EXPECT_TRUE(editor().findChild<QWidget*>(u"lockedNotice"_qs)->isVisibleTo(&editor()));
     EXPECT_FALSE(field<QLineEdit>("paidAmount")->isVisibleTo(editor().details()));
 
-    // Its lines stay closed: the reason is given instead of the popover.
-    window->action(u"addLine"_qs)->trigger();
+    // Its lines stay closed: the action is off, and any other way in gives the reason instead.
+    EXPECT_FALSE(window->action(u"addLine"_qs)->isEnabled());
+    editor().lines()->addLine();
     EXPECT_FALSE(editor().lines()->itemPopover()->isVisible());
     ASSERT_EQ(prompter.alerts().size(), 1);
     EXPECT_EQ(prompter.alerts().back().title, u"Error!");

@@ -69,6 +69,29 @@ TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
     EXPECT_EQ(delegate.session().settings().integer(key::fetchedObjectsCount), 12);
 }
 
+// What the first statistics pass changes (an invoice fell due while Tamo was closed) is kept, so
+// that an untouched store opens without anything to save.
+TEST(MainWindowTest, OpeningAStoreLeavesNothingUnsaved)
+{
+    TempProfile dir;
+    QDir().mkpath(dir.profile().supportFolder);
+    {
+        auto context = openContext(dir.storePath());
+        Record* d = context->insert("Invoice");
+        d->setValue("kind", 1);
+        d->setValue("status", 1);
+        d->setValue("number", u"R-1"_qs);
+        d->setValue("amount", 100.0);
+        d->setValue("due", QDateTime::currentDateTimeUtc().addDays(-3));
+        ASSERT_TRUE(context->save().has_value());
+    }
+    AppDelegate delegate(dir.profile());
+    delegate.start();
+    EXPECT_FALSE(delegate.session().context()->hasChanges());
+    EXPECT_FALSE(delegate.window().isWindowModified());
+    EXPECT_EQ(queryText(dir.storePath(), u"SELECT status FROM Invoice"_qs), u"2");
+}
+
 }  // namespace
 
 TEST(MainWindowTest, TheHelpMenuComesLastAndOpensTheManualBesideTheProgram)

@@ -24,7 +24,7 @@ using EinvoiceSheetsTest = EinvoiceTest;
 TEST_F(EinvoiceSheetsTest, TheToolbarShowsTheRequirementsAndTheSheetsRefuseASentInvoice)
 {
     MainWindow window(session);
-    installEinvoiceActions(window, session);
+    EinvoiceWindowActions* actions = installEinvoiceActions(window, session);
     Record* d = invoice();  // without lines: no e-invoice yet
     auto* exportAction = window.findChild<QAction*>(u"evoiceActionToolbar"_qs);
     ASSERT_NE(exportAction, nullptr);
@@ -33,10 +33,18 @@ TEST_F(EinvoiceSheetsTest, TheToolbarShowsTheRequirementsAndTheSheetsRefuseASent
     ASSERT_EQ(prompter.alerts().size(), 1);
     EXPECT_EQ(prompter.alerts().back().title, u"E-Invoice Requirements");
 
+    // A sent invoice shows its lock: the buttons are off, and any other way in is refused.
     d->setValue("status", 1);
-    window.findChild<QAction*>(u"evoiceDetailsToolbar"_qs)->trigger();
+    EXPECT_FALSE(window.findChild<QAction*>(u"evoiceDetailsToolbar"_qs)->isEnabled());
+    EXPECT_FALSE(exportAction->isEnabled());
+    actions->openEnvoiceDetailsSheet();
     ASSERT_EQ(prompter.alerts().size(), 2);
     EXPECT_EQ(prompter.alerts().back().title, u"Error!");
+    // A quote is no e-invoice.
+    d->setValue("status", 0);
+    EXPECT_TRUE(exportAction->isEnabled());
+    d->setValue("kind", 0);
+    EXPECT_FALSE(exportAction->isEnabled());
 }
 
 TEST_F(EinvoiceSheetsTest, DetailFieldsWriteToTheInvoiceAndCancellingKeepsTheEdits)

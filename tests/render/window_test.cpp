@@ -1,9 +1,12 @@
 #include <QAction>
+#include <QApplication>
+#include <QBuffer>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPdfDocument>
 #include <QPdfSelection>
 #include <QPlainTextEdit>
@@ -14,6 +17,7 @@
 #include "app/appdelegate.h"
 #include "app/designchooser.h"
 #include "app/designpreferences.h"
+#include "app/editor/documenteditor.h"
 #include "app/mainwindow.h"
 #include "app/preferences/preferencepanel.h"
 #include "app/previewpane.h"
@@ -92,17 +96,77 @@ TEST_F(RenderWindowTest, ThePreviewFollowsEditsAndTheSheets)
     ASSERT_TRUE(QTest::qWaitFor([&] { return previewText().contains(u"Second reminder"); }, 30000));
 }
 
-TEST_F(RenderWindowTest, TheChooserAndThePreferencesWorkOnTheDesigns)
+// The preview follows typing once the person pauses, before the field is left; without a
+// document it shows nothing.
+TEST_F(RenderWindowTest, ThePreviewFollowsTypingAndEmptiesWithoutADocument)
+{
+    delegate.start();
+    PreviewPane* pane = actions().previewPane();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pane->pageCount() > 0; }, 30000));
+    Record* document = delegate.session().documents().current();
+    {
+        WithoutUndo setup(*delegate.session().context());
+        document->setValue("status", 0);
+    }
+    delegate.window().editor()->refresh();
+    auto* title = delegate.window().editor()->findChild<QLineEdit*>(u"title"_qs);
+    title->setFocus();
+    title->selectAll();
+    QTest::keyClicks(title, u"Typed Title"_qs);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return previewText().contains(u"Typed Title"); }, 30000));
+    EXPECT_FALSE(delegate.session().context()->undoManager().canUndo());  // still typing
+    emit title->editingFinished();
+    EXPECT_EQ(delegate.session().context()->undoManager().undoActionName(), u"Edit Title");
+    delegate.session().undo();
+    EXPECT_NE(document->string("title"), u"Typed Title");
+
+    delegate.session().documents().setSelection({});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pane->pageCount() == 0; }, 30000));
+}
+
+TEST_F(RenderWindowTest, TheChooserShowsTheChosenDesignAndCancelGoesBack)
 {
     delegate.start();
     MainWindow& window = delegate.window();
+    // Row 4 rendered on its own, to compare the chooser's picture with.
+    InvoiceHtml html(delegate.session(), actions().designs());
+    html.useDesign(actions().designs().designs()[4]);
+    PdfRenderer renderer(delegate.session().applicationDataDirectory());
+    auto expected = renderer.renderAndWait(html.invoiceHTMLString(), html.pageLayout());
+    ASSERT_TRUE(expected.has_value());
+    QBuffer buffer(&*expected);
+    buffer.open(QIODevice::ReadOnly);
+    QPdfDocument rowFour;
+    rowFour.load(&buffer);
+    const QString rowFourText = rowFour.getAllText(0).text();
+
     DesignChooser chooser(actions().designs(), actions().output(), &window);
     EXPECT_EQ(chooser.list()->count(), 13);
     chooser.list()->setCurrentRow(4);
     EXPECT_FALSE(chooser.okButton()->isEnabled());
     ASSERT_TRUE(QTest::qWaitFor([&] { return chooser.okButton()->isEnabled(); }, 30000));
-    chooser.closeTemplateSheet(false);  // Cancel goes back
+    QPdfDocument* shown = chooser.preview()->document();
+    ASSERT_GT(shown->pageCount(), 0);
+    EXPECT_EQ(shown->getAllText(0).text(), rowFourText);
+    QTest::keyClick(&chooser, Qt::Key_Escape);  // Cancel goes back, by key too
     EXPECT_EQ(actions().designs().selectedIndex(), 0);
+
+    // A sent document keeps its design.
+    delegate.session().documents().current()->setValue("status", 1);
+    window.action(u"chooseDesign"_qs)->trigger();  // disabled: nothing opens
+    EXPECT_FALSE(window.action(u"chooseDesign"_qs)->isEnabled());
+    QString refusal;
+    QTimer::singleShot(0, [&] {
+        QWidget* shown = QApplication::activeModalWidget();
+        if (auto* box = qobject_cast<QMessageBox*>(shown)) {
+            refusal = box->informativeText();
+        }
+        if (auto* dialog = qobject_cast<QDialog*>(shown)) {
+            dialog->reject();  // the chooser must not open; if it does, it is closed again
+        }
+    });
+    actions().showTemplateSheet();
+    EXPECT_TRUE(refusal.contains(u"already sent")) << refusal.toStdString();
 
     DataInterchange interchange(delegate.session());
     ZPPreferencePanel preferences(delegate.session(), actions().designs(), interchange, &window);

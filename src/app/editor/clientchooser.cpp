@@ -20,9 +20,13 @@ namespace {
 struct FieldLabel {
     QString ClientPanel::*field;
     const char* label;
+    const char* name = "";  // the field's object name
 };
 
 const FieldLabel kClientFields[] = {
+    // The names make the document's client name, after the pattern the preferences choose.
+    {&ClientPanel::firstName, QT_TRANSLATE_NOOP("tamo::ClientChooser", "First name:"), "firstName"},
+    {&ClientPanel::lastName, QT_TRANSLATE_NOOP("tamo::ClientChooser", "Last name:"), "lastName"},
     {&ClientPanel::title, QT_TRANSLATE_NOOP("tamo::ClientChooser", "Title:")},
     {&ClientPanel::emailAddress, QT_TRANSLATE_NOOP("tamo::ClientChooser", "E-mail:")},
     {&ClientPanel::vatID, QT_TRANSLATE_NOOP("tamo::ClientChooser", "VAT ID:")},
@@ -75,7 +79,14 @@ ClientChooser::ClientChooser(Clients& clients, QWidget* parent)
     auto* openContacts = new QPushButton(tr("Open Contacts"), contactsPage);
     openContacts->setAutoDefault(false);
     contactsLayout->addWidget(openContacts, 0, Qt::AlignLeft);
-    connect(openContacts, &QPushButton::clicked, this, [this] { clients_.contactsButtonAction(); });
+    connect(openContacts, &QPushButton::clicked, this, [this] {
+        const QString before = clients_.contactsLocation();
+        clients_.contactsButtonAction();
+        if (clients_.contactsLocation() != before) {  // an address book was chosen
+            book_ = clients_.contacts();
+            fillContacts();
+        }
+    });
     connect(contacts_, &QListWidget::currentRowChanged, this, &ClientChooser::takeContact);
 
     auto* rememberedPage = new QWidget(pages_);
@@ -111,6 +122,7 @@ ClientChooser::ClientChooser(Clients& clients, QWidget* parent)
     lines_.emplace_back(&ClientPanel::clientNumber, number_);
     for (const FieldLabel& f : kClientFields) {
         auto* edit = new QLineEdit(fields);
+        edit->setObjectName(QString::fromLatin1(f.name));
         form->addRow(tr(f.label), edit);
         lines_.emplace_back(f.field, edit);
     }
@@ -155,24 +167,25 @@ bool ClientChooser::prepare()
     if (!panel) {
         return false;
     }
-    firstName_.clear();
-    lastName_.clear();
     setFields(*panel);
-    {
-        const QSignalBlocker quiet(contacts_);
-        contacts_->clear();
-        for (const Contact& c : book_.contacts) {
-            const QString city = c.primaryAddress().city;
-            contacts_->addItem(city.isEmpty() ? c.displayName()
-                                              : tr("%1 — %2").arg(c.displayName(), city));
-        }
-        contacts_->setCurrentRow(-1);
-    }
-    noContacts_->setVisible(book_.contacts.isEmpty());
+    fillContacts();
     rememberedSearch_->clear();
     fillRemembered();
     pages_->setCurrentIndex(clients_.addressPopoverPage() == 1 ? 1 : 0);
     return true;
+}
+
+void ClientChooser::fillContacts()
+{
+    const QSignalBlocker quiet(contacts_);
+    contacts_->clear();
+    for (const Contact& c : book_.contacts) {
+        const QString city = c.primaryAddress().city;
+        contacts_->addItem(city.isEmpty() ? c.displayName()
+                                          : tr("%1 — %2").arg(c.displayName(), city));
+    }
+    contacts_->setCurrentRow(-1);
+    noContacts_->setVisible(book_.contacts.isEmpty());
 }
 
 void ClientChooser::fillRemembered()
@@ -206,8 +219,6 @@ ClientPanel ClientChooser::fields() const
     for (const auto& [field, edit] : lines_) {
         panel.*field = edit->text();
     }
-    panel.firstName = firstName_;
-    panel.lastName = lastName_;
     return panel;
 }
 
@@ -222,8 +233,6 @@ void ClientChooser::takeContact(int row)
     filled.clientNumber = typed.clientNumber;
     filled.vatID = typed.vatID;
     filled.title = typed.title;
-    firstName_ = filled.firstName;
-    lastName_ = filled.lastName;
     setFields(filled);
 }
 

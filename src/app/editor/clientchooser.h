@@ -38,10 +38,10 @@ private:
     void fillRemembered();
 
     Clients& clients_;
+    void fillContacts();
+
     ContactBook book_;
     std::vector<Record*> rememberedClients_;
-    QString firstName_;
-    QString lastName_;
     QTabWidget* pages_;
     QListWidget* contacts_;
     QListWidget* remembered_;

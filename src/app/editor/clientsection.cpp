@@ -12,14 +12,16 @@
 namespace tamo {
 
 ClientSection::ClientSection(FieldBinder& binder, Clients& clients, QWidget* parent)
-    : QWidget(parent), clients_(clients), name_(new QLineEdit(this))
+    : QWidget(parent),
+      clients_(clients),
+      name_(new QLineEdit(this)),
+      choose_(new QPushButton(QIcon::fromTheme(QStringLiteral("x-office-address-book")),
+                              tr("Choose Client…"), this))
 {
     name_->setObjectName(QStringLiteral("customerName"));
-    auto* choose = new QPushButton(QIcon::fromTheme(QStringLiteral("x-office-address-book")),
-                                   tr("Choose Client…"), this);
-    choose->setObjectName(QStringLiteral("chooseClient"));
-    choose->setAutoDefault(false);
-    connect(choose, &QPushButton::clicked, this, &ClientSection::chooseClient);
+    choose_->setObjectName(QStringLiteral("chooseClient"));
+    choose_->setAutoDefault(false);
+    connect(choose_, &QPushButton::clicked, this, &ClientSection::chooseClient);
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -46,9 +48,14 @@ ClientSection::ClientSection(FieldBinder& binder, Clients& clients, QWidget* par
     form->addRow(tr("Address:"), address);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(choose, 0, Qt::AlignRight);
+    layout->addWidget(choose_, 0, Qt::AlignRight);
     layout->addLayout(form);
     layout->addStretch();
+}
+
+void ClientSection::setEditable(bool editable)
+{
+    choose_->setEnabled(editable);
 }
 
 void ClientSection::chooseClient()

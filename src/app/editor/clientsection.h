@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QLineEdit;
+class QPushButton;
 
 namespace tamo {
 
@@ -19,10 +20,13 @@ public:
 
     QLineEdit* nameField() const { return name_; }
     void chooseClient();
+    // A sent document keeps its client.
+    void setEditable(bool editable);
 
 private:
     Clients& clients_;
     QLineEdit* name_;
+    QPushButton* choose_;
 };
 
 }  // namespace tamo

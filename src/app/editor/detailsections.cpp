@@ -2,14 +2,15 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStandardItemModel>
 
+#include "app/editor/datefield.h"
 #include "app/editor/fieldbinder.h"
 #include "documents/lifecycle.h"
 #include "model/transformers.h"
@@ -18,13 +19,11 @@ namespace tamo {
 
 namespace {
 
-QDateEdit* dateEdit(QWidget* parent, const char* name)
+DateField* dateEdit(QWidget* parent, const char* name)
 {
-    auto* edit = new QDateEdit(parent);
+    auto* edit = new DateField(parent);
     edit->setObjectName(QString::fromLatin1(name));
-    edit->setCalendarPopup(true);
-    edit->setDisplayFormat(QLocale().dateFormat(QLocale::ShortFormat));
-    edit->setMinimumWidth(130);
+    edit->setMinimumWidth(150);
     edit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return edit;
 }
@@ -64,8 +63,8 @@ DocumentSection::DocumentSection(FieldBinder& binder, DocumentLifecycle& lifecyc
         binder.bindText(edit, key, undo);
         form->addRow(label, edit);
     }
-    QDateEdit* date = dateEdit(this, "date");
-    QDateEdit* due = dateEdit(this, "due");
+    DateField* date = dateEdit(this, "date");
+    DateField* due = dateEdit(this, "due");
     binder.bindDate(date, "date", tr("Edit Date"));
     binder.bindDate(due, "due", tr("Edit Due Date"));
     form->addRow(tr("Date:"), date);
@@ -79,6 +78,10 @@ DocumentSection::DocumentSection(FieldBinder& binder, DocumentLifecycle& lifecyc
                              tr("Partially paid")};
     for (int s = 0; s < 5; ++s) {
         status->addItem(names[s], s);
+    }
+    // Overdue follows from the due date; it is shown, never chosen.
+    if (auto* items = qobject_cast<QStandardItemModel*>(status->model())) {
+        items->item(2)->setEnabled(false);
     }
     binder.bindChoice(status, "status", tr("Change Status"), FieldBinder::Lock::Never);
     form->addRow(tr("Status:"), status);
@@ -98,7 +101,7 @@ DocumentSection::DocumentSection(FieldBinder& binder, DocumentLifecycle& lifecyc
     dispatchNumber_->setObjectName(QStringLiteral("dispatchNumber"));
     binder.bindText(dispatchNumber_, "dispatchNumber", tr("Edit Delivery Note Number"));
     form->addRow(tr("Delivery note no.:"), dispatchNumber_);
-    QDateEdit* dispatchDate = dateEdit(this, "dispatched");
+    DateField* dispatchDate = dateEdit(this, "dispatched");
     binder.bindDate(dispatchDate, "dispatched", tr("Edit Delivery Date"));
     auto* today = new QPushButton(tr("Today"), this);
     today->setAutoDefault(false);

@@ -2,13 +2,13 @@
 
 #include <QWidget>
 
-class QDateEdit;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
 
 namespace tamo {
 
+class DateField;
 class DocumentLifecycle;
 class FieldBinder;
 class Record;
@@ -24,13 +24,13 @@ public:
     void showDocument(const Record& document);
     QLineEdit* dispatchNumberField() const { return dispatchNumber_; }
     QLineEdit* paidAmountField() const { return paidAmount_; }
-    QDateEdit* paymentDateField() const { return paid_; }
+    DateField* paymentDateField() const { return paid_; }
 
 private:
     QFormLayout* form_;  // the whole form; its payment rows come and go
     QLabel* dueLabel_;
     QLineEdit* paidAmount_;
-    QDateEdit* paid_;
+    DateField* paid_;
     QLineEdit* dispatchNumber_;
 };
 

@@ -143,6 +143,7 @@ void DocumentEditor::refresh()
     details_->showDocument(*document_);
     lines_->showDocument(document_);
     locked_->setVisible(binder_->isLocked());
+    client_->setEditable(!binder_->isLocked());
     showHeader();
 }
 

@@ -3,14 +3,14 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 
+#include "app/editor/datefield.h"
 #include "calc/numberformat.h"
-#include "calc/totals.h"
+#include "documents/documentfields.h"
 #include "model/appsession.h"
 #include "model/transformers.h"
 
@@ -36,11 +36,33 @@ std::optional<Value> number(const QString& text, std::optional<double> (*parse)(
     return n ? std::optional<Value>(*n) : std::nullopt;
 }
 
+// A field that may not be changed looks it: the background of the window instead of a field's,
+// and a date without its arrows.
+template <typename W>
+void setEditable(W* edit, bool editable)
+{
+    edit->setReadOnly(!editable);
+    QWidget* field = edit;
+    if constexpr (std::is_same_v<W, DateField>) {
+        field = edit->lineEdit();
+    }
+    QPalette palette = field->palette();
+    const QPalette normal = QApplication::palette(field);
+    palette.setColor(QPalette::Base,
+                     editable ? normal.color(QPalette::Base) : normal.color(QPalette::Window));
+    field->setPalette(palette);
+}
+
 }  // namespace
 
 FieldBinder::FieldBinder(AppSession& session, std::function<Record*()> record, QObject* parent)
-    : QObject(parent), session_(session), record_(std::move(record))
+    : QObject(parent), session_(session), record_(std::move(record)), draft_(session)
 {
+    // A short pause in typing is enough to show what was typed; the edit itself is written when
+    // the field is left.
+    pause_.setSingleShot(true);
+    pause_.setInterval(kTypingPause);
+    connect(&pause_, &QTimer::timeout, this, &FieldBinder::showTyped);
 }
 
 void FieldBinder::add(Binding binding)
@@ -48,14 +70,45 @@ void FieldBinder::add(Binding binding)
     bindings_.push_back(std::move(binding));
 }
 
+void FieldBinder::followTyping(QLineEdit* edit)
+{
+    const size_t n = bindings_.size() - 1;
+    connect(edit, &QLineEdit::textEdited, this, [this, n] { typed(n); });
+    connect(edit, &QLineEdit::editingFinished, this, [this, n] { write(bindings_[n]); });
+}
+
+void FieldBinder::typed(size_t binding)
+{
+    if (typing_ && *typing_ != binding) {
+        write(bindings_[*typing_]);
+    }
+    typing_ = binding;
+    pause_.start();
+}
+
+void FieldBinder::showTyped()
+{
+    Record* r = record_();
+    if (!typing_ || !r || r->isDeleted() || writing_) {
+        return;
+    }
+    const Binding& b = bindings_[*typing_];
+    if (b.lock == Lock::WhenSent && isLocked()) {
+        return;
+    }
+    if (const std::optional<Value> value = b.read(*r)) {
+        const QScopedValueRollback guard(writing_, true);
+        draft_.set(*r, b.key, *value);
+    }
+}
+
 void FieldBinder::bindText(QLineEdit* edit, const char* key, const QString& undoName, Lock lock)
 {
     add({edit, key, undoName, lock,
          [edit, key](const Record& r) { setTextIfChanged(edit, r.string(key)); },
          [edit](const Record&) { return std::optional<Value>(edit->text()); },
-         [edit](bool editable) { edit->setReadOnly(!editable); }});
-    connect(edit, &QLineEdit::editingFinished, this,
-            [this, n = bindings_.size() - 1] { write(bindings_[n]); });
+         [edit](bool editable) { setEditable(edit, editable); }});
+    followTyping(edit);
 }
 
 void FieldBinder::bindText(QPlainTextEdit* edit, const char* key, const QString& undoName,
@@ -68,9 +121,14 @@ void FieldBinder::bindText(QPlainTextEdit* edit, const char* key, const QString&
              }
          },
          [edit](const Record&) { return std::optional<Value>(edit->toPlainText()); },
-         [edit](bool editable) { edit->setReadOnly(!editable); }});
+         [edit](bool editable) { setEditable(edit, editable); }});
     // A text block has no end of editing of its own: leaving it ends the edit.
     edit->installEventFilter(this);
+    connect(edit, &QPlainTextEdit::textChanged, this, [this, n = bindings_.size() - 1] {
+        if (!showing_) {
+            typed(n);
+        }
+    });
 }
 
 void FieldBinder::bindAmount(QLineEdit* edit, const char* key, const QString& undoName, Lock lock)
@@ -79,9 +137,8 @@ void FieldBinder::bindAmount(QLineEdit* edit, const char* key, const QString& un
     add({edit, key, undoName, lock,
          [edit, key](const Record& r) { setTextIfChanged(edit, stringFromNumber(r.decimal(key))); },
          [edit](const Record&) { return number(edit->text(), &decimalNumberFromString); },
-         [edit](bool editable) { edit->setReadOnly(!editable); }});
-    connect(edit, &QLineEdit::editingFinished, this,
-            [this, n = bindings_.size() - 1] { write(bindings_[n]); });
+         [edit](bool editable) { setEditable(edit, editable); }});
+    followTyping(edit);
 }
 
 void FieldBinder::bindPercent(QLineEdit* edit, const char* key, const QString& undoName, Lock lock)
@@ -92,12 +149,11 @@ void FieldBinder::bindPercent(QLineEdit* edit, const char* key, const QString& u
              setTextIfChanged(edit, decimalStringFromNumber(r.decimal(key) * 100));
          },
          [edit](const Record&) { return number(edit->text(), &percentDecimalNumberFromString); },
-         [edit](bool editable) { edit->setReadOnly(!editable); }});
-    connect(edit, &QLineEdit::editingFinished, this,
-            [this, n = bindings_.size() - 1] { write(bindings_[n]); });
+         [edit](bool editable) { setEditable(edit, editable); }});
+    followTyping(edit);
 }
 
-void FieldBinder::bindDate(QDateEdit* edit, const char* key, const QString& undoName, Lock lock)
+void FieldBinder::bindDate(DateField* edit, const char* key, const QString& undoName, Lock lock)
 {
     add({edit, key, undoName, lock,
          [edit, key](const Record& r) {
@@ -106,15 +162,20 @@ void FieldBinder::bindDate(QDateEdit* edit, const char* key, const QString& undo
                  edit->setDate(day);
              }
          },
-         [edit, key](const Record& r) {
-             // The day changes; the time of day the record had stays.
-             const QDateTime old = r.date(key).toLocalTime();
-             const QTime time = old.isValid() ? old.time() : QTime(0, 0);
-             return std::optional<Value>(QDateTime(edit->date(), time));
+         [edit, key](const Record& r) -> std::optional<Value> {
+             if (!edit->date().isValid()) {
+                 return std::nullopt;
+             }
+             return Value(withDay(r.date(key), edit->date()));
          },
-         [edit](bool editable) { edit->setReadOnly(!editable); }});
-    connect(edit, &QDateEdit::editingFinished, this,
-            [this, n = bindings_.size() - 1] { write(bindings_[n]); });
+         [edit](bool editable) { setEditable(edit, editable); }});
+    const size_t n = bindings_.size() - 1;
+    connect(edit, &DateField::dateChanged, this, [this, n] {
+        if (!showing_) {
+            typed(n);
+        }
+    });
+    connect(edit, &DateField::editingFinished, this, [this, n] { write(bindings_[n]); });
 }
 
 void FieldBinder::bindCheck(QAbstractButton* box, const char* key, const QString& undoName,
@@ -150,19 +211,31 @@ bool FieldBinder::isLocked() const
 
 void FieldBinder::refresh()
 {
+    // Typing that belongs to a document no longer shown is written to that document.
+    if (typing_ && draft_.isActive() && draft_.record() != record_()) {
+        writeTo(bindings_[*typing_], draft_.record());
+    }
     const Record* r = record_();
     if (!r || r->isDeleted()) {
         return;
     }
     const bool locked = isLocked();
-    for (const Binding& b : bindings_) {
-        b.show(*r);
+    const QScopedValueRollback quiet(showing_, true);
+    for (size_t i = 0; i < bindings_.size(); ++i) {
+        const Binding& b = bindings_[i];
+        // The field being typed in keeps the text as typed ("12,5" is not "12.50" yet).
+        if (!typing_ || *typing_ != i) {
+            b.show(*r);
+        }
         b.setEditable(b.lock == Lock::Never || !locked);
     }
 }
 
 void FieldBinder::commit()
 {
+    if (typing_) {
+        write(bindings_[*typing_]);
+    }
     const QWidget* focus = QApplication::focusWidget();
     for (const Binding& b : bindings_) {
         if (focus && (b.widget == focus || b.widget->isAncestorOf(focus))) {
@@ -180,29 +253,32 @@ void FieldBinder::commitAll()
 
 void FieldBinder::write(const Binding& binding)
 {
-    Record* r = record_();
-    Context* context = session_.context();
-    if (writing_ || !r || r->isDeleted() || !context) {
+    writeTo(binding, record_());
+}
+
+void FieldBinder::writeTo(const Binding& binding, Record* r)
+{
+    if (writing_ || !r || r->isDeleted() || !session_.context()) {
         return;
+    }
+    if (typing_ && &bindings_[*typing_] == &binding) {
+        typing_.reset();
+        pause_.stop();
     }
     const std::optional<Value> value = binding.read(*r);
-    const bool unchanged =
-        value && (r->value(binding.key) == *value ||
-                  (value->isString() && r->string(binding.key) == value->toString()));
-    if (!value || unchanged || (binding.lock == Lock::WhenSent && isLocked())) {
-        binding.show(*r);  // a number that could not be read shows the stored one again
-        return;
-    }
-    const QScopedValueRollback guard(writing_, true);
     {
-        UndoGroup group(*context, binding.undoName);
-        r->setValue(binding.key, *value);
-        if (affectsTotals(*r, binding.key)) {
-            Totals(session_).calculateInvoice(*r);  // undone together with the edit
+        const QScopedValueRollback guard(writing_, true);
+        if (value) {
+            writeDocumentField(session_, *r, binding.key, *value, binding.undoName,
+                               binding.lock == Lock::WhenSent, &draft_);
+        } else if (draft_.isFor(*r, binding.key)) {
+            draft_.revert();
         }
     }
-    session_.saveContext();
-    binding.show(*r);
+    if (r == record_()) {
+        const QScopedValueRollback quiet(showing_, true);
+        binding.show(*r);  // a number that could not be read shows the stored one again
+    }
 }
 
 bool FieldBinder::eventFilter(QObject* watched, QEvent* event)

@@ -1,15 +1,16 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <functional>
 #include <optional>
 #include <vector>
 
+#include "documents/documentfields.h"
 #include "model/value.h"
 
 class QAbstractButton;
 class QComboBox;
-class QDateEdit;
 class QLineEdit;
 class QPlainTextEdit;
 class QWidget;
@@ -17,15 +18,21 @@ class QWidget;
 namespace tamo {
 
 class AppSession;
+class DateField;
 class Record;
 
 // Ties widgets to attributes of one record (the shown document). Each change a person makes is
-// written as one undo step with a user-facing name, recalculates the document when the
-// attribute changes its amounts, and is saved at once.
+// written as one undo step with a user-facing name when the field is left, recalculates the
+// document when the attribute changes its amounts, and is saved at once. While a person types,
+// a short pause shows the typed value in the document (a draft: totals and preview follow)
+// without a step of its own.
 class FieldBinder : public QObject {
     Q_OBJECT
 
 public:
+    // How long typing pauses before the document shows what was typed.
+    static constexpr int kTypingPause = 150;
+
     // Whether a field follows the lock of a sent document; status and payment stay open.
     enum class Lock { WhenSent, Never };
 
@@ -41,7 +48,7 @@ public:
     // A fraction shown and typed as a percentage.
     void bindPercent(QLineEdit* edit, const char* key, const QString& undoName,
                      Lock lock = Lock::WhenSent);
-    void bindDate(QDateEdit* edit, const char* key, const QString& undoName,
+    void bindDate(DateField* edit, const char* key, const QString& undoName,
                   Lock lock = Lock::WhenSent);
     void bindCheck(QAbstractButton* box, const char* key, const QString& undoName,
                    Lock lock = Lock::WhenSent);
@@ -69,13 +76,21 @@ private:
         std::function<void(bool)> setEditable;
     };
     void add(Binding binding);
+    void followTyping(QLineEdit* edit);
+    void typed(size_t binding);
+    void showTyped();
     void write(const Binding& binding);
+    void writeTo(const Binding& binding, Record* record);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     AppSession& session_;
     std::function<Record*()> record_;
     std::vector<Binding> bindings_;
+    FieldDraft draft_;
+    QTimer pause_;
+    std::optional<size_t> typing_;  // the binding typed in since it was last written
     bool writing_ = false;
+    bool showing_ = false;  // fields change because the record is shown, not typed in
 };
 
 }  // namespace tamo

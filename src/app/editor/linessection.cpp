@@ -16,6 +16,7 @@
 #include "app/editor/linetablemodel.h"
 #include "app/editor/totalsview.h"
 #include "documents/lineitems.h"
+#include "model/transformers.h"
 
 namespace tamo {
 
@@ -27,6 +28,8 @@ LinesSection::LinesSection(AppSession& session, LineItems& lines, QWidget* paren
       table_(new QTableView(this)),
       totals_(new TotalsView(this)),
       add_(new QPushButton(QIcon::fromTheme(QStringLiteral("list-add")), tr("Add Line…"), this)),
+      edit_(new QPushButton(tr("Edit…"), this)),
+      remove_(new QPushButton(QIcon::fromTheme(QStringLiteral("list-remove")), tr("Remove"), this)),
       shipping_(new QPushButton(tr("Shipping…"), this)),
       discount_(new QPushButton(tr("Discount…"), this)),
       itemPopover_(new ItemPopover(session, lines, this)),
@@ -34,10 +37,11 @@ LinesSection::LinesSection(AppSession& session, LineItems& lines, QWidget* paren
       discountPopover_(new DiscountPopover(session, lines, this))
 {
     add_->setObjectName(QStringLiteral("addLine"));
-    auto* edit = new QPushButton(tr("Edit…"), this);
-    auto* remove =
-        new QPushButton(QIcon::fromTheme(QStringLiteral("list-remove")), tr("Remove"), this);
-    for (QPushButton* b : {add_, edit, remove, shipping_, discount_}) {
+    edit_->setObjectName(QStringLiteral("editLine"));
+    remove_->setObjectName(QStringLiteral("removeLine"));
+    shipping_->setObjectName(QStringLiteral("shipping"));
+    discount_->setObjectName(QStringLiteral("discount"));
+    for (QPushButton* b : {add_, edit_, remove_, shipping_, discount_}) {
         b->setAutoDefault(false);
     }
 
@@ -66,16 +70,16 @@ LinesSection::LinesSection(AppSession& session, LineItems& lines, QWidget* paren
     connect(removeKey, &QAction::triggered, this, &LinesSection::removeLine);
 
     connect(add_, &QPushButton::clicked, this, &LinesSection::addLine);
-    connect(edit, &QPushButton::clicked, this, &LinesSection::editLine);
-    connect(remove, &QPushButton::clicked, this, &LinesSection::removeLine);
+    connect(edit_, &QPushButton::clicked, this, &LinesSection::editLine);
+    connect(remove_, &QPushButton::clicked, this, &LinesSection::removeLine);
     connect(shipping_, &QPushButton::clicked, this, &LinesSection::editShipping);
     connect(discount_, &QPushButton::clicked, this, &LinesSection::editDiscount);
     connect(itemPopover_, &ItemPopover::lineAdded, this, &LinesSection::selectLine);
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(add_);
-    buttons->addWidget(edit);
-    buttons->addWidget(remove);
+    buttons->addWidget(edit_);
+    buttons->addWidget(remove_);
     buttons->addStretch();
     buttons->addWidget(sortButton());
 
@@ -145,6 +149,11 @@ void LinesSection::refresh()
     model_->setLines(lines_.sortedItems(*document_));
     selectLine(selected);
     totals_->showDocument(*document_, session_.settings());
+    // A sent document's lines, shipping and discount are locked with it.
+    const bool editable = invoiceSentToBool(document_);
+    for (QPushButton* b : {add_, edit_, remove_, shipping_, discount_}) {
+        b->setEnabled(editable);
+    }
 }
 
 Record* LinesSection::selectedLine() const

@@ -49,6 +49,8 @@ private:
     QTableView* table_;
     TotalsView* totals_;
     QPushButton* add_;
+    QPushButton* edit_;
+    QPushButton* remove_;
     QPushButton* shipping_;
     QPushButton* discount_;
     ItemPopover* itemPopover_;
