@@ -12,7 +12,6 @@
 #include "pdf/pdfoutput.h"
 #include "render/designlibrary.h"
 #include "render/invoicehtml.h"
-#include "render/pagelayout.h"
 
 namespace tamo {
 
@@ -121,7 +120,7 @@ void LedrixImport::run(const QString& startText, const QString& endText, const Q
     connect(queue_.get(), &PdfExportQueue::finished, this,
             [this, uniqueID] { pdfsDone(uniqueID); });
 
-    const QPageLayout layout = pageLayoutFromSettings(session_.settings());
+    const QPageLayout layout = html.pageLayout();
     std::vector<QString> paths;
     for (long n = 1; const Record* invoice : invoices) {
         const QString path = importPdfPath(folder, *invoice, n++);

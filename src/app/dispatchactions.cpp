@@ -148,21 +148,13 @@ DispatchWindowActions::DispatchWindowActions(MainWindow& window, AppSession& ses
     if (auto* einvoice = window.findChild<EinvoiceWindowActions*>()) {
         einvoice->setMailer([this](const EinvoiceOptions& options) { mailEvoice(options); });
     }
-    connect(&session.documents(), &DocumentList::selectionChanged, this,
-            &DispatchWindowActions::updateActions);
-    connect(&session, &AppSession::contextChanged, this, &DispatchWindowActions::updateActions);
-    updateActions();
+    // What goes out is the document as it stands: sent ones too.
+    for (QAction* a : actions_) {
+        window.setActionNeeds(a, MainWindow::Needs::Document);
+    }
 }
 
 DispatchWindowActions::~DispatchWindowActions() = default;
-
-void DispatchWindowActions::updateActions()
-{
-    const bool current = session_.context() && session_.documents().current();
-    for (QAction* a : actions_) {
-        a->setEnabled(current);
-    }
-}
 
 void DispatchWindowActions::runExport(ExportKind kind)
 {

@@ -64,8 +64,6 @@ public:
     void mailEvoice(const EinvoiceOptions& options);
 
 private:
-    void updateActions();
-
     MainWindow& window_;
     AppSession& session_;
     PdfRenderer renderer_;  // its own page: the preview's requests cancel each other, not this

@@ -12,7 +12,6 @@
 #include "pdf/pdfrenderer.h"
 #include "render/designlibrary.h"
 #include "render/invoicehtml.h"
-#include "render/pagelayout.h"
 
 Q_LOGGING_CATEGORY(lcDispatch, "tamo.dispatch", QtInfoMsg)
 
@@ -103,7 +102,7 @@ void Dispatch::createExportPDF()
     exportPdf_.clear();
     const quint64 request = ++request_;
     renderer_.render(
-        html_.invoiceHTMLString(), pageLayoutFromSettings(session_.settings()),
+        html_.invoiceHTMLString(), html_.pageLayout(),
         [this, request](const Result<QByteArray>& pdf) { exportPdfWritten(pdf, request); });
 }
 
@@ -112,8 +111,7 @@ Result<void> Dispatch::createExportPDFAndWait()
     QFile::remove(pdfPath());
     exportPdf_.clear();
     const quint64 request = ++request_;
-    const auto pdf = renderer_.renderAndWait(html_.invoiceHTMLString(),
-                                             pageLayoutFromSettings(session_.settings()));
+    const auto pdf = renderer_.renderAndWait(html_.invoiceHTMLString(), html_.pageLayout());
     if (!exportPdfWritten(pdf, request)) {
         return fail(QString::fromLatin1(kDispatchDomain), kDispatchNoPdf,
                     tr("Something went really wrong while creating the preview."),
@@ -193,7 +191,7 @@ ActionResult Dispatch::printPdf()
     job.file = pdfPath();
     job.title = session_.settings().string(key::currentPrintJobTitle);
     job.printer = printerName_;
-    job.layout = pageLayoutFromSettings(session_.settings());
+    job.layout = html_.pageLayout();
     if (session_.settings().integer(key::printBehavior) == 1) {
         const auto chosen = printers_->choose(job);
         if (!chosen) {
