@@ -52,38 +52,48 @@ void installDataMenu(MainWindow& window, DataInterchange& operations)
     // Everything goes above the separator that leads to Quit.
     QAction* before = fileMenuInsertionPoint(file);
 
-    addEntries(file, before, operations,
-               {{"Import Tamo Document…", &DataInterchange::importInvoice},
-                {"Export As Invoices Dump…", &DataInterchange::exportAsInvoiceFile},
-                {"Export Database As XML…", &DataInterchange::exportTamoDataXML},
-                {"Export Listed Invoices As XML…", &DataInterchange::exportItems}});
+    addEntries(
+        file, before, operations,
+        {{QT_TRANSLATE_NOOP("Tamo", "Import Tamo Document…"), &DataInterchange::importInvoice},
+         {QT_TRANSLATE_NOOP("Tamo", "Export As Invoices Dump…"),
+          &DataInterchange::exportAsInvoiceFile},
+         {QT_TRANSLATE_NOOP("Tamo", "Export Database As XML…"),
+          &DataInterchange::exportTamoDataXML},
+         {QT_TRANSLATE_NOOP("Tamo", "Export Listed Invoices As XML…"),
+          &DataInterchange::exportItems}});
     file->insertSeparator(before);
 
     auto* backup = new QMenu(QObject::tr("Backup"), file);
-    addEntries(backup, nullptr, operations,
-               {{"Backup Tamo Invoices…", &DataInterchange::backupTamoData},
-                {"Backup Tamo Items…", &DataInterchange::backupItems},
-                {"Backup E-Tamo Database…", &DataInterchange::backupCompleteTamoData},
-                {"Backup Raw Database…", &DataInterchange::backupCDAction},
-                {"Write Safety Copy Now", &DataInterchange::doTheNewBackup}});
+    addEntries(
+        backup, nullptr, operations,
+        {{QT_TRANSLATE_NOOP("Tamo", "Backup Tamo Invoices…"), &DataInterchange::backupTamoData},
+         {QT_TRANSLATE_NOOP("Tamo", "Backup Tamo Items…"), &DataInterchange::backupItems},
+         {QT_TRANSLATE_NOOP("Tamo", "Backup E-Tamo Database…"),
+          &DataInterchange::backupCompleteTamoData},
+         {QT_TRANSLATE_NOOP("Tamo", "Backup Raw Database…"), &DataInterchange::backupCDAction},
+         {QT_TRANSLATE_NOOP("Tamo", "Write Safety Copy Now"), &DataInterchange::doTheNewBackup}});
     file->insertMenu(before, backup);
 
     auto* restore = new QMenu(QObject::tr("Restore"), file);
-    addEntries(restore, nullptr, operations,
-               {{"Restore Tamo Invoices…", &DataInterchange::restoreTamoData},
-                {"Restore Tamo Items…", &DataInterchange::restoreItems},
-                {"Restore E-Tamo Database…", &DataInterchange::restoreCompleteTamoData},
-                {"Restore Raw Database…", &DataInterchange::restoreCDAction},
-                {"Restore from Safety Copy…", &DataInterchange::restoreFromBackup}});
+    addEntries(
+        restore, nullptr, operations,
+        {{QT_TRANSLATE_NOOP("Tamo", "Restore Tamo Invoices…"), &DataInterchange::restoreTamoData},
+         {QT_TRANSLATE_NOOP("Tamo", "Restore Tamo Items…"), &DataInterchange::restoreItems},
+         {QT_TRANSLATE_NOOP("Tamo", "Restore E-Tamo Database…"),
+          &DataInterchange::restoreCompleteTamoData},
+         {QT_TRANSLATE_NOOP("Tamo", "Restore Raw Database…"), &DataInterchange::restoreCDAction},
+         {QT_TRANSLATE_NOOP("Tamo", "Restore from Safety Copy…"),
+          &DataInterchange::restoreFromBackup}});
     restore->addSeparator();
-    QAction* flatpak = addEntries(restore, nullptr, operations,
-                                  {{"Move Data from the Flatpak Edition…",
-                                    &DataInterchange::restoreAutomaticallyFromSandbox}});
+    QAction* flatpak =
+        addEntries(restore, nullptr, operations,
+                   {{QT_TRANSLATE_NOOP("Tamo", "Move Data from the Flatpak Edition…"),
+                     &DataInterchange::restoreAutomaticallyFromSandbox}});
     file->insertMenu(before, restore);
 
-    QAction* recover =
-        addEntries(file, before, operations,
-                   {{"Recover Previous Database…", &DataInterchange::recoverPreviousDatabase}});
+    QAction* recover = addEntries(file, before, operations,
+                                  {{QT_TRANSLATE_NOOP("Tamo", "Recover Previous Database…"),
+                                    &DataInterchange::recoverPreviousDatabase}});
     QObject::connect(file, &QMenu::aboutToShow, file, [&operations, flatpak, recover] {
         flatpak->setVisible(operations.canRestoreFromSandbox());
         recover->setEnabled(!operations.recoverySnapshots().isEmpty());

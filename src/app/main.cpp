@@ -14,13 +14,16 @@
 #include "pdf/pdfrenderer.h"
 #include "platform/handoff.h"
 #include "platform/profile.h"
+#include "platform/translations.h"
 
 namespace {
 
+// Names the application and speaks the user's language, in the window and on the command line.
 void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Tamo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TAMO_VERSION));
+    tamo::installTranslations();
 }
 
 // Printing pages takes the web engine, which needs a GUI application; off screen, as runs
