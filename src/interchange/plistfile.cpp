@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTimeZone>
 #include <cmath>
 #include <limits>
@@ -45,17 +44,6 @@ Result<QByteArray> readWholeFile(const QString& path, qint64 limit)
     }
     // A file that grew after the size check is cut off and then fails to parse.
     return file.read(limit + 1);
-}
-
-Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        return std::unexpected(interchangeError(
-            kFileNotWritten, QStringLiteral("The file “%1” was not written.").arg(path),
-            file.errorString()));
-    }
-    return {};
 }
 
 Result<QByteArray> serializePlist(plist_t root, PlistFormat format)

@@ -12,6 +12,7 @@
 #include "model/value.h"
 #include "platform/error.h"
 
+#include "platform/filewriting.h"
 namespace tamo {
 
 inline constexpr auto kInterchangeDomain = "Tamo.interchange";
@@ -42,8 +43,6 @@ enum class PlistFormat { Xml, Binary };
 inline constexpr qint64 kMaxInterchangeFileSize = qint64(512) << 20;
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limit = kMaxInterchangeFileSize);
-// Through QSaveFile: the file is complete or untouched.
-Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes);
 
 Result<QByteArray> serializePlist(plist_t root, PlistFormat format);
 // An XML or binary property list, told apart by its first bytes.

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <filesystem>
 
 #include "interchange/plistfile.h"
@@ -81,36 +80,6 @@ Result<void> writeStoreCopy(Context& context, const QString& target)
         QFile::remove(partial);
     }
     return moved;
-}
-
-Result<void> copyFileAtomically(const QString& source, const QString& target)
-{
-    QFile in(source);
-    if (!in.open(QIODevice::ReadOnly)) {
-        return std::unexpected(storeError(
-            QStringLiteral("The file “%1” could not be read.").arg(source), in.errorString()));
-    }
-    QSaveFile out(target);
-    if (!out.open(QIODevice::WriteOnly)) {
-        return std::unexpected(storeError(
-            QStringLiteral("The file “%1” could not be written.").arg(target), out.errorString()));
-    }
-    while (!in.atEnd()) {
-        const QByteArray chunk = in.read(1 << 20);
-        if (chunk.isEmpty() && in.error() != QFile::NoError) {
-            out.cancelWriting();
-            return std::unexpected(storeError(
-                QStringLiteral("The file “%1” could not be read.").arg(source), in.errorString()));
-        }
-        if (out.write(chunk) != chunk.size()) {
-            break;
-        }
-    }
-    if (!out.commit()) {
-        return std::unexpected(storeError(
-            QStringLiteral("The file “%1” could not be written.").arg(target), out.errorString()));
-    }
-    return {};
 }
 
 Result<void> checkStoreFile(const QString& path, const QString& shownName)

@@ -20,8 +20,6 @@ FileRequest openPanel(const QString& title, const QString& extension);
 // Writes a compact copy of the saved store to `target` (VACUUM INTO a file beside it, then
 // renamed into place), so that a failure never leaves half a file or removes an older one.
 Result<void> writeStoreCopy(Context& context, const QString& target);
-// Copies any file through QSaveFile.
-Result<void> copyFileAtomically(const QString& source, const QString& target);
 // Opens `path` as a Tamo store (bringing an older layout up to date) and closes it again; an
 // error says why it cannot serve as one, calling it by `shownName`.
 Result<void> checkStoreFile(const QString& path, const QString& shownName);

@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 
 #include "model/storelocation.h"
+#include "platform/filewriting.h"
 
 Q_LOGGING_CATEGORY(lcSession, "tamo.session")
 
@@ -26,29 +27,120 @@ Context* AppSession::managedObjectContext()
         return context_.get();
     }
     openAttempted_ = true;
-    auto opened = openStore(settings_, profile_);
+    auto opened = openSessionStore();
+    if (opened) {
+        useContext(std::move(*opened));
+        // What could not be read at the start is missing from the list: an empty or partial
+        // list must never pass for the store's content.
+        if (const std::optional<Error> failure = context_->readFailure()) {
+            documents_.setContext(nullptr);
+            context_.reset();
+            opened = std::unexpected(*failure);
+        }
+    }
     if (!opened) {
+        openFailure_ = opened.error();
+        if (quiet_) {
+            return nullptr;
+        }
         prompter_.presentError(opened.error());
-        prompter_.presentError(
-            Error{QString::fromLatin1(kStoreErrorDomain), 0,
-                  QStringLiteral("Failed to initialize the store"),
-                  QStringLiteral("There was an error building up the data file.")});
+        if (opened.error().domain != QLatin1String(kLockErrorDomain)) {
+            prompter_.presentError(
+                Error{QString::fromLatin1(kStoreErrorDomain), 0,
+                      QStringLiteral("Failed to initialize the store"),
+                      QStringLiteral("There was an error building up the data file.")});
+        }
         return nullptr;
     }
-    context_ = std::move(*opened);
-    if (!settings_.boolean(key::isTamo2TemplateLoadingDone) && hooks_.loadBuiltInDesigns) {
+    openFailure_.reset();
+    emit contextChanged(context_.get());
+    return context_.get();
+}
+
+Context* AppSession::contextIfItOpens()
+{
+    quiet_ = true;
+    Context* context = managedObjectContext();
+    quiet_ = false;
+    return context;
+}
+
+Result<void> AppSession::takeLock(const QString& storePath)
+{
+    if (!use_.lock || lock_) {
+        return {};
+    }
+    auto taken = StoreLock::acquire(storePath, LockHolder::thisProcess(use_.window), use_.wait);
+    if (!taken) {
+        lockHolder_ = taken.error().holder;
+        Error e = taken.error().error;
+        if (e.code == kLockNotWritable) {
+            e.reason = fileFailureCause(taken.error().errorNumber);
+        }
+        return std::unexpected(e);
+    }
+    lock_ = std::move(*taken);
+    lockHolder_.reset();
+    return {};
+}
+
+Result<std::unique_ptr<Context>> AppSession::openSessionStore()
+{
+    readOnlyReason_.clear();
+    const QString folder = storeFolder(settings_, profile_);
+    for (const QString& f : {profile_.supportFolder, folder}) {
+        if (auto r = ensureFolder(f); !r) {
+            return std::unexpected(r.error());
+        }
+    }
+    const QString path = folder + u'/' + QLatin1String(kStoreFileName);
+    if (auto locked = takeLock(path); !locked) {
+        const Error& e = locked.error();
+        if (e.code == kStoreInUse && use_.readsOnly) {
+            readOnlyReason_ = tr("It is in use by %1; this is a snapshot of it.")
+                                  .arg(lockHolder_ ? lockHolder_->describe() : tr("another Tamo"));
+            return Context::openReadOnly(path);
+        }
+        if (e.code == kLockNotWritable) {
+            if (!QFileInfo::exists(path)) {
+                return fail(QString::fromLatin1(kStoreErrorDomain), 104,
+                            tr("Tamo cannot make its store in the folder “%1”.").arg(folder),
+                            e.reason);
+            }
+            readOnlyReason_ = tr("Its folder “%1” may not be written. %2").arg(folder, e.reason);
+            return Context::openReadOnly(path);
+        }
+        return std::unexpected(e);
+    }
+    auto opened = Context::open(path);
+    if (opened && (*opened)->isReadOnly()) {
+        readOnlyReason_ = tr("The store file may only be read.");
+    }
+    return opened;
+}
+
+void AppSession::useContext(std::unique_ptr<Context> context)
+{
+    context_ = std::move(context);
+    if (!context_->isReadOnly() && !settings_.boolean(key::isTamo2TemplateLoadingDone) &&
+        hooks_.loadBuiltInDesigns) {
         hooks_.loadBuiltInDesigns();
         settings_.set(key::isTamo2TemplateLoadingDone, true);
     }
     documents_.setContext(context_.get());
-    emit contextChanged(context_.get());
-    return context_.get();
 }
 
 Result<void> AppSession::reloadStore(
     const std::function<Result<void>(const QString& storePath)>& replace)
 {
     const QString path = context_ ? context_->path() : storeFilePath(settings_, profile_);
+    if (context_ && context_->isReadOnly()) {
+        return fail(QString::fromLatin1(kStoreErrorDomain), 105,
+                    tr("The store “%1” is open for reading only.").arg(path), readOnlyReason_);
+    }
+    if (auto locked = takeLock(path); !locked) {
+        return locked;
+    }
     if (context_) {
         documents_.setContext(nullptr);
         std::unique_ptr<Context> closing = std::move(context_);
@@ -58,8 +150,10 @@ Result<void> AppSession::reloadStore(
     openAttempted_ = true;
     auto reopened = Context::open(path);
     if (!reopened) {
+        openFailure_ = reopened.error();
         return std::unexpected(reopened.error());
     }
+    openFailure_.reset();
     context_ = std::move(*reopened);
     documents_.setContext(context_.get());
     emit contextChanged(context_.get());
@@ -83,6 +177,19 @@ bool AppSession::saveContext()
     }
     if (!context_ || !context_->hasChanges()) {
         return true;
+    }
+    if (context_->isReadOnly()) {
+        // What the statistics pass works out stays in memory; an edit cannot be kept.
+        if (!context_->undoManager().canUndo()) {
+            context_->adoptChanges();
+            return true;
+        }
+        prompter_.presentError(
+            Error{QString::fromLatin1(kStoreErrorDomain), 105,
+                  tr("The store “%1” is open for reading only.").arg(context_->path()),
+                  readOnlyReason_ + u' ' + tr("Your change was not kept.")});
+        context_->rollback();
+        return false;
     }
     if (auto saved = context_->save(); !saved) {
         prompter_.presentError(saved.error());
@@ -176,6 +283,9 @@ AppSession::TerminateReply AppSession::applicationShouldTerminate()
     if (!context_) {
         settings_.set(key::isTerminatedFine, true);
         return TerminateReply::Now;
+    }
+    if (context_->isReadOnly()) {
+        context_->adoptChanges();
     }
     if (!commitEditing()) {
         qCWarning(lcSession)

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "model/context.h"
 #include "model/documentlist.h"
+#include "model/storelock.h"
 #include "platform/clock.h"
 #include "platform/profile.h"
 #include "platform/prompter.h"
@@ -47,8 +50,27 @@ public:
         std::function<bool(const QString&)> openUrl;  // handed to another application
     };
 
+    // How the session uses its store. The window and the commands take the store's lock, so
+    // that one process writes a store at a time; a command that only reads runs beside the
+    // holder on a snapshot instead. Without `lock` (tests, tools) no lock is taken.
+    struct StoreUse {
+        bool lock = false;
+        bool window = false;
+        bool readsOnly = false;
+        std::chrono::milliseconds wait{0};  // while a command holds the lock
+    };
+
     AppSession(Profile profile, Settings& settings, const Clock& clock, Prompter& prompter);
     ~AppSession() override;
+
+    void setStoreUse(const StoreUse& use) { use_ = use; }
+    // The store is open for reading only (its folder may not be written, or another Tamo holds
+    // it and this session reads a snapshot); readOnlyReason says why in a sentence.
+    bool isReadOnly() const { return context_ && context_->isReadOnly(); }
+    QString readOnlyReason() const { return readOnlyReason_; }
+    // Why the store could not be opened, and who held it when that was the reason.
+    const std::optional<Error>& openFailure() const { return openFailure_; }
+    const std::optional<LockHolder>& lockHolder() const { return lockHolder_; }
 
     const Profile& profile() const { return profile_; }
     Settings& settings() const { return settings_; }
@@ -65,6 +87,9 @@ public:
     // The one context, opened on first use; nullptr when the store cannot be opened (the reason
     // has been presented).
     Context* managedObjectContext();
+    // The same, without presenting why the store could not be opened: for the actions that put
+    // another store in its place, which go on all the same.
+    Context* contextIfItOpens();
     Context* context() const { return context_.get(); }
 
     // Lets go of the store while `replace` works on its file (a restore puts another file in its
@@ -94,14 +119,23 @@ signals:
 private:
     bool commitEditing() const { return !hooks_.commitEditing || hooks_.commitEditing(); }
     void rememberSelectedDesign();
+    Result<std::unique_ptr<Context>> openSessionStore();
+    Result<void> takeLock(const QString& storePath);
+    void useContext(std::unique_ptr<Context> context);
 
     Profile profile_;
     Settings& settings_;
     const Clock& clock_;
     Prompter& prompter_;
     Hooks hooks_;
+    StoreUse use_;
+    std::unique_ptr<StoreLock> lock_;  // released after the context has closed the file
     std::unique_ptr<Context> context_;
+    QString readOnlyReason_;
+    std::optional<Error> openFailure_;
+    std::optional<LockHolder> lockHolder_;
     bool openAttempted_ = false;
+    bool quiet_ = false;
     DocumentList documents_;
     DocumentStatistics statistics_;
 };

@@ -12,11 +12,6 @@ namespace tamo {
 
 namespace {
 
-QString newUniqueID()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-}
-
 template <typename T>
 void eraseValue(std::vector<T>& list, const T& value)
 {
@@ -75,9 +70,36 @@ Result<std::unique_ptr<Context>> Context::open(const QString& path, const Model&
     return std::unique_ptr<Context>(new Context(model, std::move(*file)));
 }
 
+QString Context::makeUniqueID()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+}
+
+Result<std::unique_ptr<Context>> Context::openReadOnly(const QString& path, const Model& model)
+{
+    auto file = StoreFile::openReadOnly(path, model);
+    if (!file) {
+        return std::unexpected(file.error());
+    }
+    return std::unique_ptr<Context>(new Context(model, std::move(*file)));
+}
+
 QString Context::path() const
 {
     return file_->path();
+}
+
+bool Context::isReadOnly() const
+{
+    return file_->isReadOnly();
+}
+
+void Context::noteReadFailure(const Error& error, const EntityDescription& entity)
+{
+    qCCritical(lcContext).noquote() << "Failed to load" << entity.qName() << error.text();
+    if (!readFailure_) {
+        readFailure_ = error;
+    }
 }
 
 void Context::fail(const QString& message) const
@@ -123,7 +145,7 @@ void Context::loadAll(EntityState& s)
         }
     });
     if (!loaded) {
-        qCCritical(lcContext) << "Failed to load" << s.entity->qName() << loaded.error().text();
+        noteReadFailure(loaded.error(), *s.entity);
         return;
     }
     s.allLoaded = true;
@@ -141,7 +163,7 @@ Record* Context::object(const EntityDescription& entity, qint64 pk)
     Record* found = nullptr;
     auto r = file_->selectOne(entity, pk, [&] { found = materialise(s, pk); });
     if (!r) {
-        qCCritical(lcContext) << "Failed to load" << entity.qName() << r.error().text();
+        noteReadFailure(r.error(), entity);
     }
     return found;
 }
@@ -169,7 +191,7 @@ void Context::loadMembers(Record& owner, int relationship)
         }
     });
     if (!r) {
-        qCCritical(lcContext) << "Failed to load" << destination.qName() << r.error().text();
+        noteReadFailure(r.error(), destination);
     }
 }
 
@@ -183,7 +205,7 @@ Record* Context::insert(std::string_view entity)
     for (Record::Link& link : r->links_) {
         link.loaded = true;
     }
-    r->values_[size_t(s.entity->attributeIndex("uniqueID"))] = Value(newUniqueID());
+    r->values_[size_t(s.entity->attributeIndex("uniqueID"))] = Value(makeUniqueID());
     s.records.emplace(pk, std::move(owned));
     revive(*r);
     record({[this, r] { kill(*r); }, [this, r] { revive(*r); }});
@@ -405,8 +427,8 @@ void Context::revive(Record& r)
 
 bool Context::hasChanges() const
 {
-    return std::any_of(pending_.begin(), pending_.end(),
-                       [](const Record* r) { return r->hasChanges(); });
+    return !pendingMarks_.empty() || std::any_of(pending_.begin(), pending_.end(),
+                                                 [](const Record* r) { return r->hasChanges(); });
 }
 
 Result<void> Context::save()
@@ -417,12 +439,21 @@ Result<void> Context::save()
             changed.push_back(r);
         }
     }
-    if (!changed.empty()) {
-        if (auto written = file_->write(changed); !written) {
+    if (!changed.empty() || !pendingMarks_.empty()) {
+        if (auto written = file_->write(changed, pendingMarks_); !written) {
             qCWarning(lcContext).noquote() << "Unable to save the store:" << written.error().text();
             return written;
         }
     }
+    clearPending();
+    if (!changed.empty()) {
+        emit didSave();
+    }
+    return {};
+}
+
+void Context::clearPending()
+{
     for (Record* r : pending_) {
         r->persisted_ = !r->deleted_;
         r->dirty_ = false;
@@ -430,10 +461,29 @@ Result<void> Context::save()
         r->saved_.reset();
     }
     pending_.clear();
-    if (!changed.empty()) {
-        emit didSave();
+    pendingMarks_.clear();
+}
+
+void Context::adoptChanges()
+{
+    clearPending();
+}
+
+QString Context::storeMark(const QString& key)
+{
+    for (const auto& [k, v] : pendingMarks_) {
+        if (k == key) {
+            return v;
+        }
     }
-    return {};
+    auto value = file_->mark(key);
+    return value ? *value : QString();
+}
+
+void Context::setStoreMark(const QString& key, const QString& value)
+{
+    std::erase_if(pendingMarks_, [&](const auto& mark) { return mark.first == key; });
+    pendingMarks_.emplace_back(key, value);
 }
 
 void Context::rollback()
@@ -457,6 +507,7 @@ void Context::rollback()
         r->saved_.reset();
     }
     pending_.clear();
+    pendingMarks_.clear();
     rebuildMemberLists();
     undo_.clear();
     announce();

@@ -48,11 +48,20 @@ public:
     // Opens (or creates) the store file, bringing an older layout up to date.
     static Result<std::unique_ptr<Context>> open(const QString& path,
                                                  const Model& model = Model::tamo());
+    // Opens the file for reading only, on a snapshot of the moment (see StoreFile).
+    static Result<std::unique_ptr<Context>> openReadOnly(const QString& path,
+                                                         const Model& model = Model::tamo());
     ~Context() override;
 
     const Model& model() const { return model_; }
     QString path() const;
+    bool isReadOnly() const;
+    // The first failure to read records from the file, if any: the records it should have
+    // given are missing from what the context shows.
+    const std::optional<Error>& readFailure() const { return readFailure_; }
 
+    // A fresh identity, as every new record gets one.
+    static QString makeUniqueID();
     // A new record with a fresh uniqueID and no other values.
     Record* insert(std::string_view entity);
     // Deletes the record and whatever its cascading relationships hold.
@@ -71,6 +80,14 @@ public:
     Result<void> save();
     // Forgets every unsaved change and the undo history.
     void rollback();
+    // Takes what is in memory as the saved state without writing it: a store open for reading
+    // only keeps what the statistics pass worked out.
+    void adoptChanges();
+
+    // A small value kept in the store with the records and saved in the same transaction, so
+    // that a step and the note that it was done are written together or not at all.
+    QString storeMark(const QString& key);
+    void setStoreMark(const QString& key, const QString& value);
 
     UndoManager& undoManager() { return undo_; }
     void beginUndoGroup(const QString& name);
@@ -105,6 +122,8 @@ private:
     Record* object(const EntityDescription& entity, qint64 pk);
     void loadMembers(Record& owner, int relationship);
     void fail(const QString& message) const;
+    void noteReadFailure(const Error& error, const EntityDescription& entity);
+    void clearPending();
 
     // Mutations, recorded for undo and saving.
     enum class Change { Inserted, Updated, Deleted };
@@ -129,6 +148,8 @@ private:
     std::vector<Record*> pending_;
     UndoManager undo_;
     std::unordered_set<Record*> noted_[3];  // by Change, until the next announcement
+    std::optional<Error> readFailure_;
+    std::vector<std::pair<QString, QString>> pendingMarks_;
 };
 
 // Keeps the changes made during its life together as one undoable step.

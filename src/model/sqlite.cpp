@@ -1,15 +1,74 @@
 #include "model/sqlite.h"
 
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include "platform/filewriting.h"
+
+// Off unless asked for (QT_LOGGING_RULES="tamo.sqlite.debug=true"): the statements that failed.
+Q_LOGGING_CATEGORY(lcSql, "tamo.sqlite", QtWarningMsg)
+
 namespace tamo::sql {
 
 namespace {
-Error errorFrom(sqlite3* db, int code, const QString& context)
+
+QString tr(const char* text)
 {
-    const char* message = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
-    return Error{QString::fromLatin1(kDomain), code, context,
-                 QString::fromUtf8(message ? message : "unknown error")};
+    return QCoreApplication::translate("tamo::Store", text);
 }
+
+QString fileOf(sqlite3* db)
+{
+    const char* name = db ? sqlite3_db_filename(db, "main") : nullptr;
+    return name && *name ? QString::fromUtf8(name) : tr("in memory");
+}
+
+// What the person is told; the statement itself only goes to the log.
+Error errorFrom(sqlite3* db, int code, const QString& message, const QString& sql = {})
+{
+    const char* detail = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+    // Callers decide whether a failure matters (a first attempt may be expected to fail); the
+    // statement and SQLite's own words are for the developer.
+    qCDebug(lcSql).noquote() << message << (detail ? detail : "") << sql;
+    return Error{QString::fromLatin1(kDomain), code, message, causeOf(db, code)};
+}
+
 }  // namespace
+
+QString causeOf(sqlite3* db, int code)
+{
+    const int system = db ? sqlite3_system_errno(db) : 0;
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return fileFailureCause(ENOSPC);
+    case SQLITE_READONLY:
+        return system != 0 ? fileFailureCause(system) : tr("It may only be read.");
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return fileFailureCause(EACCES);
+    case SQLITE_CANTOPEN:
+    case SQLITE_IOERR:
+        return fileFailureCause(system != 0 ? system : EIO);
+    case SQLITE_CORRUPT:
+        return tr("The file is damaged.");
+    case SQLITE_NOTADB:
+        return tr("It is not a database.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return tr("Another program is using it.");
+    case SQLITE_NOMEM:
+        return tr("There is not enough memory.");
+    default:
+        break;
+    }
+    const char* detail = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+    return QString::fromUtf8(detail ? detail : sqlite3_errstr(code)) + u'.';
+}
+
+bool isDamage(int code)
+{
+    return (code & 0xff) == SQLITE_CORRUPT || (code & 0xff) == SQLITE_NOTADB;
+}
 
 Database::~Database()
 {
@@ -31,11 +90,21 @@ Database& Database::operator=(Database&& other) noexcept
 
 Result<Database> Database::open(const QString& path, bool create)
 {
+    return openWith(path, SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0));
+}
+
+Result<Database> Database::openReadOnly(const QString& path)
+{
+    // URIs too, for the "immutable" reading of a store in a folder that may not be written.
+    return openWith(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+Result<Database> Database::openWith(const QString& path, int flags)
+{
     sqlite3* db = nullptr;
-    const int flags = SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0);
     const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db, flags, nullptr);
     if (rc != SQLITE_OK) {
-        Error e = errorFrom(db, rc, QStringLiteral("Unable to open the store file %1.").arg(path));
+        Error e = errorFrom(db, rc, tr("The store “%1” could not be opened.").arg(path));
         sqlite3_close_v2(db);
         return std::unexpected(e);
     }
@@ -49,9 +118,9 @@ Result<void> Database::exec(const QString& sql)
     char* message = nullptr;
     const int rc = sqlite3_exec(db_, sql.toUtf8().constData(), nullptr, nullptr, &message);
     if (rc != SQLITE_OK) {
-        Error e{QString::fromLatin1(kDomain), rc, QStringLiteral("Failed to run %1.").arg(sql),
-                QString::fromUtf8(message ? message : sqlite3_errstr(rc))};
         sqlite3_free(message);
+        Error e =
+            errorFrom(db_, rc, tr("The store “%1” could not be changed.").arg(fileOf(db_)), sql);
         return std::unexpected(e);
     }
     return {};
@@ -65,14 +134,14 @@ Result<Statement> Database::prepare(const QString& sql)
                                       SQLITE_PREPARE_PERSISTENT, &stmt, nullptr);
     if (rc != SQLITE_OK) {
         return std::unexpected(
-            errorFrom(db_, rc, QStringLiteral("Failed to prepare %1.").arg(sql)));
+            errorFrom(db_, rc, tr("The store “%1” could not be read.").arg(fileOf(db_)), sql));
     }
     return Statement(stmt, db_);
 }
 
-Error Database::lastError(const QString& context) const
+Error Database::lastError(const QString& message) const
 {
-    return errorFrom(db_, sqlite3_extended_errcode(db_), context);
+    return errorFrom(db_, sqlite3_extended_errcode(db_), message);
 }
 
 Statement::~Statement()
@@ -131,7 +200,7 @@ bool Statement::step()
         return true;
     }
     if (rc != SQLITE_DONE) {
-        error_ = errorFrom(db_, rc, QStringLiteral("Failed to read from the store."));
+        error_ = errorFrom(db_, rc, tr("The store “%1” could not be read.").arg(fileOf(db_)));
     }
     return false;
 }
@@ -142,7 +211,8 @@ Result<void> Statement::run()
     if (rc == SQLITE_ROW || rc == SQLITE_DONE) {
         return {};
     }
-    return std::unexpected(errorFrom(db_, rc, QStringLiteral("Failed to write to the store.")));
+    return std::unexpected(
+        errorFrom(db_, rc, tr("The store “%1” could not be written.").arg(fileOf(db_))));
 }
 
 QString Statement::text(int column) const

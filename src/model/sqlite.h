@@ -22,16 +22,20 @@ public:
     Database& operator=(const Database&) = delete;
 
     static Result<Database> open(const QString& path, bool create);
+    // Only reads; writing through it fails.
+    static Result<Database> openReadOnly(const QString& path);
 
     sqlite3* handle() const { return db_; }
     bool isOpen() const { return db_ != nullptr; }
 
     Result<void> exec(const QString& sql);
     Result<Statement> prepare(const QString& sql);
-    Error lastError(const QString& context) const;
+    Error lastError(const QString& message) const;
+    bool isReadOnly() const { return sqlite3_db_readonly(db_, "main") == 1; }
 
 private:
     explicit Database(sqlite3* db) : db_(db) {}
+    static Result<Database> openWith(const QString& path, int flags);
     sqlite3* db_ = nullptr;
 };
 
@@ -74,6 +78,11 @@ private:
     sqlite3* db_ = nullptr;
     std::optional<Error> error_;
 };
+
+// Why an SQLite call failed, in words: the disk is full, the file is damaged, ...
+QString causeOf(sqlite3* db, int code);
+// The code says that the file is damaged or no database at all.
+bool isDamage(int code);
 
 // Quotes an identifier for use in SQL text.
 QString quoted(const QString& identifier);

@@ -1,11 +1,14 @@
 #include "model/storefile.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QLoggingCategory>
-#include <QSet>
 #include <QStringList>
+#include <QUrl>
 #include <cmath>
 
 #include "model/record.h"
+#include "model/storelayout.h"
 
 Q_LOGGING_CATEGORY(lcStore, "tamo.store")
 
@@ -13,129 +16,49 @@ namespace tamo {
 
 namespace {
 
-QString q(const std::string& identifier)
+QString tr(const char* text)
 {
-    return sql::quoted(QString::fromStdString(identifier));
+    return QCoreApplication::translate("tamo::Store", text);
 }
 
-QString columnType(AttributeType type)
+Error damagedStore(const QString& path, const QString& detail)
 {
-    switch (type) {
-    case AttributeType::String:
-        return QStringLiteral("TEXT");
-    case AttributeType::Integer:
-    case AttributeType::Boolean:
-        return QStringLiteral("INTEGER");
-    case AttributeType::Decimal:
-    case AttributeType::Date:  // seconds since 1970-01-01 UTC
-        return QStringLiteral("REAL");
+    return Error{QString::fromLatin1(sql::kDomain), SQLITE_CORRUPT,
+                 tr("The store “%1” is damaged.").arg(path),
+                 tr("SQLite reports: %1 Tamo has changed nothing; a recovery copy or a backup can "
+                    "take its place (File › Recover Previous Database…, or tamo recover).")
+                     .arg(detail)};
+}
+
+// Errors of a file that is damaged say so; any other error stays as it is.
+Error asDamage(const Error& e, const QString& path)
+{
+    return sql::isDamage(e.code) ? damagedStore(path, e.reason) : e;
+}
+
+// Reads every page; the first problem SQLite finds is named.
+Result<void> checkPages(sql::Database& db, const QString& path)
+{
+    auto problem = layout::integrityProblem(db, true);
+    if (!problem) {
+        return std::unexpected(asDamage(problem.error(), path));
+    }
+    if (!problem->isEmpty()) {
+        return std::unexpected(damagedStore(path, *problem));
     }
     return {};
 }
 
-// Columns after the primary key: every attribute, then every to-one relationship.
-QStringList columns(const EntityDescription& entity)
+QString q(const std::string& identifier)
 {
-    QStringList list;
-    for (const auto& a : entity.attributes()) {
-        list << q(a.key);
-    }
-    for (const auto& r : entity.relationships()) {
-        if (!r.toMany) {
-            list << q(r.key);
-        }
-    }
-    return list;
+    return layout::quotedName(identifier);
 }
 
-Result<QSet<QString>> existingColumns(sql::Database& db, const EntityDescription& entity)
+Error newerStore(const QString& path)
 {
-    auto info = db.prepare(QStringLiteral("PRAGMA table_info(%1)").arg(q(entity.name())));
-    if (!info) {
-        return std::unexpected(info.error());
-    }
-    QSet<QString> names;
-    while (info->step()) {
-        names.insert(info->text(1));
-    }
-    if (info->error()) {
-        return std::unexpected(*info->error());
-    }
-    return names;
-}
-
-Result<int> storedVersion(sql::Database& db)
-{
-    if (auto r = db.exec(
-            QStringLiteral("CREATE TABLE IF NOT EXISTS meta (key TEXT PRIMARY KEY, value TEXT)"));
-        !r) {
-        return std::unexpected(r.error());
-    }
-    auto s = db.prepare(QStringLiteral("SELECT value FROM meta WHERE key = 'schemaVersion'"));
-    if (!s) {
-        return std::unexpected(s.error());
-    }
-    return s->step() ? s->text(0).toInt() : 0;
-}
-
-// Brings the tables up to the model: new entities get tables, new attributes get columns.
-// Stores only ever gain; nothing is dropped, so an older store keeps all it holds.
-Result<void> upgradeTables(sql::Database& db, const Model& model)
-{
-    for (const EntityDescription& entity : model.entities()) {
-        auto existing = existingColumns(db, entity);
-        if (!existing) {
-            return std::unexpected(existing.error());
-        }
-        QStringList wanted;
-        for (const auto& a : entity.attributes()) {
-            wanted << QString::fromStdString(a.key) + u' ' + columnType(a.type);
-        }
-        for (const auto& r : entity.relationships()) {
-            if (!r.toMany) {
-                wanted << QString::fromStdString(r.key) + QStringLiteral(" INTEGER");
-            }
-        }
-        if (existing->isEmpty()) {
-            QStringList defs{QStringLiteral("pk INTEGER PRIMARY KEY")};
-            for (const QString& w : wanted) {
-                const auto space = w.indexOf(u' ');
-                defs << sql::quoted(w.left(space)) + w.mid(space);
-            }
-            if (auto r = db.exec(QStringLiteral("CREATE TABLE %1 (%2)")
-                                     .arg(q(entity.name()), defs.join(QStringLiteral(", "))));
-                !r) {
-                return r;
-            }
-        } else {
-            for (const QString& w : wanted) {
-                const auto space = w.indexOf(u' ');
-                if (existing->contains(w.left(space))) {
-                    continue;
-                }
-                if (auto r = db.exec(
-                        QStringLiteral("ALTER TABLE %1 ADD COLUMN %2%3")
-                            .arg(q(entity.name()), sql::quoted(w.left(space)), w.mid(space)));
-                    !r) {
-                    return r;
-                }
-            }
-        }
-        for (const auto& r : entity.relationships()) {
-            if (r.toMany) {
-                continue;
-            }
-            const QString index = QString::fromStdString(entity.name() + '_' + r.key);
-            if (auto e = db.exec(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2 (%3)")
-                                     .arg(sql::quoted(index), q(entity.name()), q(r.key)));
-                !e) {
-                return e;
-            }
-        }
-    }
-    return db.exec(QStringLiteral("INSERT OR REPLACE INTO meta (key, value) "
-                                  "VALUES ('schemaVersion', '%1')")
-                       .arg(Model::kSchemaVersion));
+    return Error{QString::fromLatin1(sql::kDomain), 1,
+                 tr("The store “%1” was written by a newer version of Tamo.").arg(path),
+                 tr("Please update Tamo to open it.")};
 }
 
 }  // namespace
@@ -147,29 +70,35 @@ StoreFile::StoreFile(QString path, sql::Database db, const Model& model)
 
 Result<std::unique_ptr<StoreFile>> StoreFile::open(const QString& path, const Model& model)
 {
+    const bool existing = QFileInfo(path).size() > 0;
     auto db = sql::Database::open(path, true);
     if (!db) {
         return std::unexpected(db.error());
     }
+    if (db->isReadOnly()) {
+        return openReadOnly(path, model);
+    }
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL"}) {
         if (auto r = db->exec(QString::fromLatin1(pragma)); !r) {
-            return std::unexpected(r.error());
+            return std::unexpected(existing ? asDamage(r.error(), path) : r.error());
+        }
+    }
+    if (existing) {
+        if (auto checked = checkPages(*db, path); !checked) {
+            return std::unexpected(checked.error());
         }
     }
     if (auto r = db->exec(QStringLiteral("BEGIN IMMEDIATE")); !r) {
         return std::unexpected(r.error());
     }
-    auto version = storedVersion(*db);
+    auto version = layout::storedVersion(*db);
     Result<void> upgraded;
     if (!version) {
         upgraded = std::unexpected(version.error());
     } else if (*version > Model::kSchemaVersion) {
-        upgraded =
-            fail(QString::fromLatin1(sql::kDomain), 1,
-                 QStringLiteral("The store %1 was written by a newer version of Tamo.").arg(path),
-                 QStringLiteral("Please update Tamo to open it."));
+        upgraded = std::unexpected(newerStore(path));
     } else if (*version < Model::kSchemaVersion) {
-        upgraded = upgradeTables(*db, model);
+        upgraded = layout::upgradeTables(*db, model);
     }
     if (!upgraded) {
         (void)db->exec(QStringLiteral("ROLLBACK"));
@@ -182,8 +111,102 @@ Result<std::unique_ptr<StoreFile>> StoreFile::open(const QString& path, const Mo
         qCInfo(lcStore) << "Migrated the store from layout version" << *version << "to"
                         << Model::kSchemaVersion;
     }
-    std::unique_ptr<StoreFile> file(new StoreFile(path, std::move(*db), model));
-    file->openedVersion_ = *version;
+    return finishOpening(path, std::move(*db), model, *version, false);
+}
+
+namespace {
+
+// Starts the read transaction that the connection keeps: its snapshot is what every later read
+// sees. The layout version of the file, 0 when it records none.
+Result<int> beginSnapshot(sql::Database& db)
+{
+    if (auto r = db.exec(QStringLiteral("BEGIN")); !r) {
+        return std::unexpected(r.error());
+    }
+    auto s = db.prepare(QStringLiteral("SELECT value FROM meta WHERE key = 'schemaVersion'"));
+    if (!s) {
+        // No meta table: no store of ours, unless the file cannot be read at all.
+        auto any = db.prepare(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+        if (!any || !any->step()) {
+            return std::unexpected(any ? *any->error() : any.error());
+        }
+        return 0;
+    }
+    const bool found = s->step();
+    if (s->error()) {
+        return std::unexpected(*s->error());
+    }
+    return found ? s->text(0).toInt() : 0;
+}
+
+// A folder that may not be written holds no "-shm" file for the readers' shared memory; the
+// store is then read as a file that nothing changes.
+Result<sql::Database> openImmutable(const QString& path)
+{
+    QUrl url = QUrl::fromLocalFile(path);
+    url.setQuery(QStringLiteral("immutable=1"));
+    return sql::Database::openReadOnly(QString::fromUtf8(url.toEncoded()));
+}
+
+}  // namespace
+
+Result<std::unique_ptr<StoreFile>> StoreFile::openReadOnly(const QString& path, const Model& model)
+{
+    auto db = sql::Database::openReadOnly(path);
+    if (!db) {
+        return std::unexpected(db.error());
+    }
+    auto version = beginSnapshot(*db);
+    if (!version && !sql::isDamage(version.error().code)) {
+        if (auto immutable = openImmutable(path); immutable) {
+            if (auto v = beginSnapshot(*immutable); v) {
+                db = std::move(immutable);
+                version = v;
+            }
+        }
+    }
+    if (!version) {
+        return std::unexpected(asDamage(version.error(), path));
+    }
+    if (*version == 0) {
+        return fail(QString::fromLatin1(sql::kDomain), SQLITE_NOTADB,
+                    tr("The store “%1” could not be opened.").arg(path),
+                    tr("It holds no Tamo data, and it may only be read."));
+    }
+    if (*version > Model::kSchemaVersion) {
+        return std::unexpected(newerStore(path));
+    }
+    if (auto checked = checkPages(*db, path); !checked) {
+        return std::unexpected(checked.error());
+    }
+    if (*version < Model::kSchemaVersion) {
+        // The layout is brought up to date in a copy in memory.
+        auto memory = sql::Database::open(QStringLiteral(":memory:"), true);
+        if (!memory) {
+            return std::unexpected(memory.error());
+        }
+        sqlite3_backup* copy = sqlite3_backup_init(memory->handle(), "main", db->handle(), "main");
+        const int rc = copy ? sqlite3_backup_step(copy, -1) : SQLITE_ERROR;
+        sqlite3_backup_finish(copy);
+        if (rc != SQLITE_DONE) {
+            return std::unexpected(
+                db->lastError(tr("The store “%1” could not be read.").arg(path)));
+        }
+        if (auto r = layout::upgradeTables(*memory, model); !r) {
+            return std::unexpected(r.error());
+        }
+        db = std::move(memory);
+    }
+    return finishOpening(path, std::move(*db), model, *version, true);
+}
+
+Result<std::unique_ptr<StoreFile>> StoreFile::finishOpening(QString path, sql::Database db,
+                                                            const Model& model, int version,
+                                                            bool readOnly)
+{
+    std::unique_ptr<StoreFile> file(new StoreFile(std::move(path), std::move(db), model));
+    file->openedVersion_ = version;
+    file->readOnly_ = readOnly;
     if (auto r = file->prepareStatements(); !r) {
         return std::unexpected(r.error());
     }
@@ -193,7 +216,7 @@ Result<std::unique_ptr<StoreFile>> StoreFile::open(const QString& path, const Mo
 Result<void> StoreFile::prepareStatements()
 {
     for (const EntityDescription& entity : model_.entities()) {
-        const QStringList cols = columns(entity);
+        const QStringList cols = layout::columns(entity);
         const QString table = q(entity.name());
         QStringList placeholders, assignments;
         for (const QString& c : cols) {
@@ -236,7 +259,7 @@ Result<void> StoreFile::selectAll(const EntityDescription& entity,
                                   const std::function<void(qint64)>& row)
 {
     auto s = db_.prepare(QStringLiteral("SELECT %1, pk FROM %2 ORDER BY pk")
-                             .arg(columns(entity).join(u','), q(entity.name())));
+                             .arg(layout::columns(entity).join(u','), q(entity.name())));
     if (!s) {
         return std::unexpected(s.error());
     }
@@ -247,7 +270,7 @@ Result<void> StoreFile::selectWhere(const EntityDescription& entity, const std::
                                     qint64 value, const std::function<void(qint64)>& row)
 {
     auto s = db_.prepare(QStringLiteral("SELECT %1, pk FROM %2 WHERE %3 = ? ORDER BY pk")
-                             .arg(columns(entity).join(u','), q(entity.name()), q(column)));
+                             .arg(layout::columns(entity).join(u','), q(entity.name()), q(column)));
     if (!s) {
         return std::unexpected(s.error());
     }
@@ -367,10 +390,44 @@ void StoreFile::bindRecord(sql::Statement& s, const Record& record)
     s.bind(index, record.pk_);
 }
 
-Result<void> StoreFile::write(const std::vector<Record*>& records)
+Result<QString> StoreFile::mark(const QString& key)
 {
+    auto s = db_.prepare(QStringLiteral("SELECT value FROM meta WHERE key = ?"));
+    if (!s) {
+        return std::unexpected(s.error());
+    }
+    s->bind(1, key);
+    const bool found = s->step();
+    if (s->error()) {
+        return std::unexpected(*s->error());
+    }
+    return found ? s->text(0) : QString();
+}
+
+Result<void> StoreFile::write(const std::vector<Record*>& records,
+                              const std::vector<std::pair<QString, QString>>& marks)
+{
+    if (readOnly_) {
+        return fail(QString::fromLatin1(sql::kDomain), SQLITE_READONLY,
+                    tr("The store “%1” is open for reading only.").arg(path_),
+                    tr("Your changes were not saved."));
+    }
     if (auto r = db_.exec(QStringLiteral("BEGIN IMMEDIATE")); !r) {
         return r;
+    }
+    for (const auto& [key, value] : marks) {
+        auto s =
+            db_.prepare(QStringLiteral("INSERT OR REPLACE INTO meta (key, value) VALUES (?, ?)"));
+        Result<void> done = s ? Result<void>() : std::unexpected(s.error());
+        if (s) {
+            s->bind(1, key);
+            s->bind(2, value);
+            done = s->run();
+        }
+        if (!done) {
+            (void)db_.exec(QStringLiteral("ROLLBACK"));
+            return done;
+        }
     }
     for (const Record* record : records) {
         Statements& s = statements(record->entity());
@@ -402,12 +459,36 @@ Result<void> StoreFile::write(const std::vector<Record*>& records)
 
 Result<void> StoreFile::copyTo(const QString& path)
 {
+    if (readOnly_) {
+        return copyByBackup(path);
+    }
     auto s = db_.prepare(QStringLiteral("VACUUM INTO ?"));
     if (!s) {
         return std::unexpected(s.error());
     }
     s->bind(1, path);
     return s->run();
+}
+
+// A snapshot's copy: VACUUM cannot run inside the read transaction that holds the snapshot.
+Result<void> StoreFile::copyByBackup(const QString& path)
+{
+    auto target = sql::Database::open(path, true);
+    if (!target) {
+        return std::unexpected(target.error());
+    }
+    sqlite3_backup* copy = sqlite3_backup_init(target->handle(), "main", db_.handle(), "main");
+    if (!copy) {
+        return std::unexpected(
+            target->lastError(tr("The copy “%1” could not be written.").arg(path)));
+    }
+    const int rc = sqlite3_backup_step(copy, -1);
+    sqlite3_backup_finish(copy);
+    if (rc != SQLITE_DONE) {
+        return std::unexpected(
+            target->lastError(tr("The copy “%1” could not be written.").arg(path)));
+    }
+    return {};
 }
 
 }  // namespace tamo

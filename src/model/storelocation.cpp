@@ -45,18 +45,6 @@ Result<void> ensureFolder(const QString& path)
     return {};
 }
 
-Result<std::unique_ptr<Context>> openStore(const Settings& settings, const Profile& profile)
-{
-    if (auto r = ensureFolder(profile.supportFolder); !r) {
-        return std::unexpected(r.error());
-    }
-    const QString folder = storeFolder(settings, profile);
-    if (auto r = ensureFolder(folder); !r) {
-        return std::unexpected(r.error());
-    }
-    return Context::open(folder + u'/' + QLatin1String(kStoreFileName));
-}
-
 Result<void> migrateStore(Context& context, const QString& target)
 {
     if (QFileInfo(target).absoluteFilePath() == QFileInfo(context.path()).absoluteFilePath()) {

@@ -23,9 +23,6 @@ QString storeFilePath(const Settings& settings, const Profile& profile);
 // A file in its place is error 101.
 Result<void> ensureFolder(const QString& path);
 
-// Opens the store where the settings say it lives, creating folders as needed.
-Result<std::unique_ptr<Context>> openStore(const Settings& settings, const Profile& profile);
-
 // Writes the open store's saved state to `target`, first removing any store files there.
 Result<void> migrateStore(Context& context, const QString& target);
 

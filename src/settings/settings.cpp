@@ -1,7 +1,10 @@
 #include "settings/settings.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <array>
+
+#include "platform/filewriting.h"
 
 namespace tamo {
 
@@ -32,16 +35,21 @@ const SettingKey* findSettingKey(std::string_view wanted)
     return nullptr;
 }
 
-Settings::Settings(const QString& file) : store_(file, QSettings::IniFormat) {}
+Settings::Settings(const QString& file)
+    : store_(std::make_unique<QSettings>(file, QSettings::IniFormat))
+{
+}
+
+Settings::~Settings() = default;
 
 bool Settings::contains(const SettingKey& key) const
 {
-    return store_.contains(name(key));
+    return store_->contains(name(key));
 }
 
 QVariant Settings::value(const SettingKey& key) const
 {
-    return store_.value(name(key));
+    return store_->value(name(key));
 }
 
 QString Settings::string(const SettingKey& key) const
@@ -69,24 +77,61 @@ QDateTime Settings::date(const SettingKey& key) const
     return value(key).toDateTime();
 }
 
-void Settings::set(const SettingKey& key, const QVariant& value)
+bool Settings::set(const SettingKey& key, const QVariant& value)
 {
-    store_.setValue(name(key), value);
-    store_.sync();
+    renewAfterFailure();
+    store_->setValue(name(key), value);
+    return sync();
 }
 
-void Settings::set(std::span<const SettingValue> values)
+bool Settings::set(std::span<const SettingValue> values)
 {
+    renewAfterFailure();
     for (const SettingValue& v : values) {
-        store_.setValue(name(*v.key), v.value);
+        store_->setValue(name(*v.key), v.value);
     }
-    store_.sync();
+    return sync();
 }
 
-void Settings::remove(const SettingKey& key)
+bool Settings::remove(const SettingKey& key)
 {
-    store_.remove(name(key));
-    store_.sync();
+    renewAfterFailure();
+    store_->remove(name(key));
+    return sync();
+}
+
+// QSettings keeps reporting the first write that failed: after one, the next write goes through
+// a fresh QSettings, made once the old one is gone (Qt keeps the values that were not saved per
+// file, so they are written with the next write that succeeds).
+void Settings::renewAfterFailure()
+{
+    if (!writeError_) {
+        return;
+    }
+    const QString file = fileName();
+    store_.reset();
+    store_ = std::make_unique<QSettings>(file, QSettings::IniFormat);
+}
+
+bool Settings::sync()
+{
+    store_->sync();
+    if (store_->status() == QSettings::NoError) {
+        writeError_.reset();
+        return true;
+    }
+    // QSettings keeps only that the write failed; the file and its folder tell why.
+    const QString file = fileName();
+    Error e = fileWriteError(file, probeWriteFailure(file));
+    e.message =
+        QCoreApplication::translate("tamo::Settings", "Your settings could not be saved to “%1”.")
+            .arg(file);
+    const bool first = !writeError_;
+    writeError_ = e;
+    if (onWriteFailure_ && first) {
+        onWriteFailure_(e);
+    }
+    return false;
 }
 
 std::optional<QVariant> Settings::fromText(const SettingKey& key, const QString& text)

@@ -143,7 +143,8 @@ TEST_F(CommandLineTest, AStoreThatCannotBeOpenedIsReportedNotReplaced)
     file.close();
     const Outcome run = tamo({u"list"_qs});
     EXPECT_EQ(run.code, 1);
-    EXPECT_TRUE(run.err.contains(u"file is not a database")) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(u"is damaged")) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(u"It is not a database.")) << run.err.toStdString();
     EXPECT_TRUE(run.err.contains(u"Failed to initialize the store"));
     EXPECT_EQ(QFileInfo(file).size(), 4096);
 }

@@ -97,7 +97,9 @@ TEST_F(BackupTest, AFileThatCannotBeWrittenIsReportedNotSkipped)
 {
     user.queueFile(file(u"missing folder/Tamo Invoices.tamoinvoices"_qs));
     EXPECT_EQ(ops.backupTamoData(), ActionResult::Failed);
-    EXPECT_TRUE(user.errors().last().message.contains(u"was not written"));
+    EXPECT_EQ(user.errors().last().text(),
+              QStringLiteral("The file “%1” could not be written. The folder does not exist.")
+                  .arg(file(u"missing folder/Tamo Invoices.tamoinvoices"_qs)));
 
     // libplist keeps a date's seconds in 32 bits: a date it cannot hold stops the write.
     store().fetch("Invoice").front()->setValue("due", utc(2100, 1, 1));

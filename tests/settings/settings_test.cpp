@@ -2,6 +2,8 @@
 #include <QTemporaryDir>
 
 #include "settings/settings.h"
+#include "support/scratchfs.h"
+#include "support/testsupport.h"
 
 using namespace tamo;
 
@@ -108,6 +110,40 @@ TEST(SettingKeysTest, NamesAreUnique)
         EXPECT_FALSE(names.contains(QString::fromLatin1(k.name))) << k.name;
         names.insert(QString::fromLatin1(k.name));
     }
+}
+
+TEST(SettingsWriteTest, AWriteThatFailsIsReportedOnceWithTheFileAndTheCause)
+{
+    tamo::test::ScratchFileSystem disk(256 << 10);
+    if (!disk.available()) {
+        GTEST_SKIP() << disk.reason().toStdString();
+    }
+    const QString file = disk.filePath(QStringLiteral("Tamo.conf"));
+    Settings settings(file);
+    std::vector<Error> reported;
+    settings.setWriteFailureHandler([&](const Error& e) { reported.push_back(e); });
+    ASSERT_TRUE(settings.set(key::prefsName, QStringLiteral("Anna")));
+
+    disk.fill();
+    EXPECT_FALSE(settings.set(key::prefsSlogan, QString(8192, u's')));
+    ASSERT_TRUE(settings.writeError().has_value());
+    EXPECT_EQ(
+        settings.writeError()->text(),
+        QStringLiteral("Your settings could not be saved to “%1”. The disk is full.").arg(file));
+    EXPECT_FALSE(settings.set(key::prefsContact, QString(8192, u'c')));
+    EXPECT_EQ(reported.size(), 1u);                             // said once, not at every write
+    EXPECT_EQ(settings.string(key::prefsSlogan).size(), 8192);  // kept for this run
+
+    disk.drain();
+    EXPECT_TRUE(settings.set(key::prefsContact, QStringLiteral("again")));
+    EXPECT_FALSE(settings.writeError().has_value());
+    EXPECT_EQ(Settings(file).string(key::prefsContact), u"again");
+    EXPECT_TRUE(tamo::test::readFile(file).contains(u"prefsSlogan=sss"));
+
+    ASSERT_TRUE(disk.remountReadOnly());
+    EXPECT_FALSE(settings.set(key::prefsName, QStringLiteral("Bert")));
+    EXPECT_EQ(settings.writeError()->reason, u"The file system is read-only.");
+    EXPECT_EQ(reported.size(), 2u);
 }
 
 }  // namespace
