@@ -16,9 +16,10 @@ enum class ActionResult { Done, Cancelled, Failed };
 // presented there and logged under "tamo.interchange".
 //
 // Before anything that deletes or replaces stored data wholesale, a recovery snapshot of the
-// store goes into the profile's recovery folder (the ten newest are kept), and
+// store goes into the profile's recovery folder (see RecoverySnapshots for which are kept), and
 // recoverPreviousDatabase returns to one of them. When the snapshot cannot be written, the
-// action stops before changing anything.
+// action stops before changing anything. Nothing is written from a store that could not be read
+// completely: a partial backup must never pass for a whole one.
 class DataInterchange {
 public:
     explicit DataInterchange(AppSession& session);
@@ -80,7 +81,13 @@ private:
                                     const char* entity, const QString& reason);
     ActionResult replaceStore(const QString& candidate, const QString& reason,
                               const ReplaceLog& log);
-    bool snapshot(const QString& reason);
+    // The recovery copy's path (empty without a store file); nothing when it failed (the reason
+    // has been shown).
+    std::optional<QString> snapshot(const QString& reason);
+    // Refuses to write a file from a store that could not be read completely.
+    bool readable();
+    // Tells that created records were given new identities, when any were.
+    void tellRenamed(int renamed);
     bool confirmed(const QString& text, const QString& button);
     QString liveStorePath() const;
     ActionResult failed(const Error& error);

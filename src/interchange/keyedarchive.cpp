@@ -155,8 +155,8 @@ private:
             }
             std::free(it);
         } else {
-            for (uint32_t i = 0, n = plist_array_get_size(node); i < n; ++i) {
-                if (auto added = add(plist_array_get_item(node, i)); !added) {
+            for (plist_t member : arrayItems(node)) {
+                if (auto added = add(member); !added) {
                     return std::unexpected(added.error());
                 }
             }
@@ -208,21 +208,22 @@ public:
             return refuse(QStringLiteral("It holds no keyed archive."));
         }
         plist_t archiver = plist_dict_get_item(archive, "$archiver");
-        objects_ = plist_dict_get_item(archive, "$objects");
+        plist_t objects = plist_dict_get_item(archive, "$objects");
         plist_t top = plist_dict_get_item(archive, "$top");
         plist_t root = top && plist_get_node_type(top) == PLIST_DICT
                            ? plist_dict_get_item(top, "root")
                            : nullptr;
-        if ((archiver && plistString(archiver) != u"NSKeyedArchiver") || !objects_ ||
-            plist_get_node_type(objects_) != PLIST_ARRAY || !root ||
+        if ((archiver && plistString(archiver) != u"NSKeyedArchiver") || !objects ||
+            plist_get_node_type(objects) != PLIST_ARRAY || !root ||
             plist_get_node_type(root) != PLIST_UID) {
             return refuse(QStringLiteral("It holds no keyed archive."));
         }
-        count_ = plist_array_get_size(objects_);
+        // Objects are found by number; gathered once, each is found in constant time.
+        objects_ = arrayItems(objects);
+        count_ = uint32_t(objects_.size());
         active_.assign(count_, false);
         budget_ = 1024 + 4 * uint64_t(count_);
-        for (uint32_t i = 0; i < count_; ++i) {
-            plist_t object = plist_array_get_item(objects_, i);
+        for (plist_t object : objects_) {
             if (plist_get_node_type(object) != PLIST_DICT) {
                 continue;
             }
@@ -260,7 +261,7 @@ private:
         if (uid == 0) {
             return Plist();  // "$null"
         }
-        plist_t object = plist_array_get_item(objects_, uint32_t(uid));
+        plist_t object = objects_[size_t(uid)];
         switch (plist_get_node_type(object)) {
         case PLIST_STRING:
         case PLIST_UINT:
@@ -322,7 +323,7 @@ private:
         plist_t classRef = plist_dict_get_item(object, "$class");
         plist_t record = nullptr;
         if (classRef && plist_get_node_type(classRef) == PLIST_UID && uidValue(classRef) < count_) {
-            record = plist_array_get_item(objects_, uint32_t(uidValue(classRef)));
+            record = objects_[size_t(uidValue(classRef))];
         }
         if (!record || plist_get_node_type(record) != PLIST_DICT) {
             *className = QStringLiteral("(none)");
@@ -334,8 +335,8 @@ private:
         }
         if (plist_t chain = plist_dict_get_item(record, "$classes");
             chain && plist_get_node_type(chain) == PLIST_ARRAY) {
-            for (uint32_t i = 0, n = plist_array_get_size(chain); i < n; ++i) {
-                names << plistString(plist_array_get_item(chain, i));
+            for (plist_t name : arrayItems(chain)) {
+                names << plistString(name);
             }
         }
         *className = names.value(0);
@@ -368,19 +369,21 @@ private:
     {
         plist_t keys = member(object, "NS.keys", PLIST_ARRAY);
         plist_t values = member(object, "NS.objects", PLIST_ARRAY);
-        if (!keys || !values || plist_array_get_size(keys) != plist_array_get_size(values)) {
+        const std::vector<plist_t> keyList = keys ? arrayItems(keys) : std::vector<plist_t>();
+        const std::vector<plist_t> valueList = values ? arrayItems(values) : std::vector<plist_t>();
+        if (!keys || !values || keyList.size() != valueList.size()) {
             return refuse(QStringLiteral("A dictionary has no matching keys and values."));
         }
         Plist dictionary(plist_new_dict());
-        for (uint32_t i = 0, n = plist_array_get_size(keys); i < n; ++i) {
-            auto key = decode(plist_array_get_item(keys, i), depth + 1);
+        for (size_t i = 0; i < keyList.size(); ++i) {
+            auto key = decode(keyList[i], depth + 1);
             if (!key) {
                 return key;
             }
             if (!*key || plist_get_node_type(key->get()) != PLIST_STRING) {
                 return refuse(QStringLiteral("A dictionary has a key that is not text."));
             }
-            auto value = decode(plist_array_get_item(values, i), depth + 1);
+            auto value = decode(valueList[i], depth + 1);
             if (!value) {
                 return value;
             }
@@ -399,8 +402,8 @@ private:
             return refuse(QStringLiteral("A list has no members."));
         }
         Plist array(plist_new_array());
-        for (uint32_t i = 0, n = plist_array_get_size(values); i < n; ++i) {
-            auto value = decode(plist_array_get_item(values, i), depth + 1);
+        for (plist_t member : arrayItems(values)) {
+            auto value = decode(member, depth + 1);
             if (!value) {
                 return value;
             }
@@ -479,7 +482,7 @@ private:
         return Plist(plist_new_real(text.toDouble()));
     }
 
-    plist_t objects_ = nullptr;
+    std::vector<plist_t> objects_;
     uint32_t count_ = 0;
     std::vector<bool> active_;
     uint64_t budget_ = 0;

@@ -8,11 +8,12 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "model/value.h"
 #include "platform/error.h"
-
 #include "platform/filewriting.h"
+
 namespace tamo {
 
 inline constexpr auto kInterchangeDomain = "Tamo.interchange";
@@ -45,7 +46,13 @@ inline constexpr qint64 kMaxInterchangeFileSize = qint64(512) << 20;
 Result<QByteArray> readWholeFile(const QString& path, qint64 limit = kMaxInterchangeFileSize);
 
 Result<QByteArray> serializePlist(plist_t root, PlistFormat format);
-// An XML or binary property list, told apart by its first bytes.
+// Deeper than any file of Tamo's nests (a record's relationships nest at most 32 records deep,
+// each a dictionary in a list); the readers recurse, so deeper nesting is refused before parsing.
+inline constexpr int kMaxPlistDepth = 256;
+
+// An XML or binary property list, told apart by its first bytes. A list nesting deeper than
+// kMaxPlistDepth, and an XML list with a date whose text is no date (named with its key and
+// record), are refused without being parsed.
 Result<Plist> parsePlist(const QByteArray& bytes);
 Result<Plist> readPlistFile(const QString& path);
 
@@ -60,6 +67,10 @@ plist_t plistFromValue(const Value& value);
 // The value of a text, number, boolean or date node; nullopt for any other node. Integers
 // beyond 32 bits become decimals.
 std::optional<Value> valueFromPlist(plist_t node);
+
+// The members of an array node in order, gathered in one pass: libplist finds a member of a
+// parsed array by walking from the first, so indexing one member after another is quadratic.
+std::vector<plist_t> arrayItems(plist_t array);
 
 QString plistString(plist_t node);
 

@@ -1,8 +1,10 @@
 #include "interchange/recorddictionary.h"
 
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <unordered_set>
 
 namespace tamo {
 
@@ -75,6 +77,18 @@ Result<Value> attributeValue(plist_t node, std::string_view key, AttributeType t
     return *stored;
 }
 
+// Values that fit the attribute's type but mean nothing: a status is one of the five codes.
+Result<void> checkRange(const EntityDescription& entity, std::string_view key, const Value& value)
+{
+    if (entity.name() == "Invoice" && key == "status" && !value.isNull() &&
+        (value.toInt() < 0 || value.toInt() > 4)) {
+        return std::unexpected(
+            dictionaryError(QStringLiteral("“status” holds %1, which is no status (0 to 4)")
+                                .arg(value.toString())));
+    }
+    return {};
+}
+
 // One walk serves both checking (no context: nothing is inserted) and creating, so that what
 // was checked is exactly what is created.
 class DictionaryWalker {
@@ -115,6 +129,9 @@ public:
                     if (!value) {
                         return std::unexpected(value.error());
                     }
+                    if (auto range = checkRange(entity, attributeKey, *value); !range) {
+                        return range;
+                    }
                     if (record) {
                         record->setValueAt(a, *value);
                     }
@@ -136,9 +153,9 @@ private:
         const QString key = qs(relationship.key);
         const plist_type type = plist_get_node_type(node);
         if (relationship.toMany && type == PLIST_ARRAY) {
-            const uint32_t count = plist_array_get_size(node);
-            for (uint32_t i = 0; i < count; ++i) {
-                auto member = nested(relationship, plist_array_get_item(node, i), depth);
+            const std::vector<plist_t> entries = arrayItems(node);
+            for (size_t i = 0; i < entries.size(); ++i) {
+                auto member = nested(relationship, entries[i], depth);
                 if (!member) {
                     return std::unexpected(
                         within(member.error(), QStringLiteral("%1, entry %2").arg(key).arg(i + 1)));
@@ -186,6 +203,47 @@ private:
 
     Context* context_;
 };
+
+// "Record 3 (RE-2026-0012)": the position in the file and what the person knows it by.
+QString recordLabel(uint32_t position, plist_t dictionary)
+{
+    QString name;
+    for (const char* key : {"number", "title", "uniqueID"}) {
+        plist_t node = plist_get_node_type(dictionary) == PLIST_DICT
+                           ? plist_dict_get_item(dictionary, key)
+                           : nullptr;
+        if (name.isEmpty() && node) {
+            name = plistString(node).left(60);
+        }
+    }
+    return name.isEmpty() ? QStringLiteral("Record %1").arg(position)
+                          : QStringLiteral("Record %1 (%2)").arg(position).arg(name);
+}
+
+// Records are found again by their uniqueID (the list filter, notifications, the command line):
+// a created record whose identity another record of its kind has gets a new one.
+int keepIdentitiesUnique(Context& context, const std::vector<Record*>& created)
+{
+    if (created.empty()) {
+        return 0;
+    }
+    const std::unordered_set<const Record*> fresh(created.begin(), created.end());
+    QSet<QString> taken;
+    for (const Record* r : context.fetch(created.front()->entity().name())) {
+        if (!fresh.contains(r)) {
+            taken.insert(r->uniqueID());
+        }
+    }
+    int renamed = 0;
+    for (Record* r : created) {
+        if (taken.contains(r->uniqueID())) {
+            r->setValue("uniqueID", Context::makeUniqueID());
+            ++renamed;
+        }
+        taken.insert(r->uniqueID());
+    }
+    return renamed;
+}
 
 const EntityDescription* entityNamed(const Context& context, plist_t dictionary,
                                      std::string_view forced, Error* error)
@@ -308,7 +366,7 @@ Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& c
 }
 
 Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& context,
-                                                  std::string_view entityName)
+                                                  std::string_view entityName, int* renamed)
 {
     if (plist_get_node_type(dictionary) != PLIST_DICT) {
         return std::unexpected(dictionaryError(
@@ -322,11 +380,18 @@ Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& c
     if (auto checked = checkDictionary(dictionary, *entity); !checked) {
         return std::unexpected(checked.error());
     }
-    return DictionaryWalker(&context).create(*entity, dictionary, 0);
+    auto created = DictionaryWalker(&context).create(*entity, dictionary, 0);
+    if (created) {
+        const int given = keepIdentitiesUnique(context, {*created});
+        if (renamed) {
+            *renamed = given;
+        }
+    }
+    return created;
 }
 
 Result<std::vector<Record*>> createManagedObjectsFromList(Plist owned, Context& context,
-                                                          std::string_view entityName)
+                                                          std::string_view entityName, int* renamed)
 {
     plist_t list = owned.get();
     if (plist_get_node_type(list) != PLIST_ARRAY) {
@@ -335,10 +400,11 @@ Result<std::vector<Record*>> createManagedObjectsFromList(Plist owned, Context& 
                                 .arg(plistKindName(list))));
     }
     const EntityDescription& entity = *context.model().entity(entityName);
-    const uint32_t count = plist_array_get_size(list);
+    const std::vector<plist_t> entries = arrayItems(list);
+    const auto count = uint32_t(entries.size());
     for (uint32_t i = 0; i < count; ++i) {
-        if (auto checked = checkDictionary(plist_array_get_item(list, i), entity); !checked) {
-            return std::unexpected(within(checked.error(), QStringLiteral("Record %1").arg(i + 1)));
+        if (auto checked = checkDictionary(entries[i], entity); !checked) {
+            return std::unexpected(within(checked.error(), recordLabel(i + 1, entries[i])));
         }
     }
     std::vector<Record*> created;
@@ -351,6 +417,10 @@ Result<std::vector<Record*>> createManagedObjectsFromList(Plist owned, Context& 
         }
         created.push_back(*record);
         plist_array_remove_item(list, 0);
+    }
+    const int given = keepIdentitiesUnique(context, created);
+    if (renamed) {
+        *renamed = given;
     }
     return created;
 }

@@ -31,17 +31,21 @@ Value decodedValueFrom(const Value& value, std::string_view key);
 
 // Reading never looks for existing records: every nested dictionary becomes a new record. The
 // whole dictionary is checked before anything is inserted, so a dictionary that does not fit
-// the entities (an unknown "class", a key the entity lacks, text where a number belongs, records
-// nested without end) gives a message and leaves the context as it was.
+// the entities (an unknown "class", a key the entity lacks, text where a number belongs, a status
+// that is none, records nested without end) gives a message and leaves the context as it was.
+// A created record whose uniqueID another record of its kind has already could not be found by
+// it: it gets a new one, and `renamed` (when given) counts it.
 Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& context);
 // As above, with the entity given instead of read from "class" (the restores do this).
 Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& context,
-                                                  std::string_view entity);
+                                                  std::string_view entity, int* renamed = nullptr);
 // Every dictionary of `list` as a record of `entity`, whatever its "class" says; all of them are
 // checked before the first is inserted. Each dictionary is freed as soon as its record exists, so
-// that the records of a large file reuse its memory.
+// that the records of a large file reuse its memory. Errors name the record by its position and
+// number or uniqueID.
 Result<std::vector<Record*>> createManagedObjectsFromList(Plist list, Context& context,
-                                                          std::string_view entity);
+                                                          std::string_view entity,
+                                                          int* renamed = nullptr);
 Result<void> populateFromDictionary(Record& record, plist_t dictionary);
 // Checks without inserting.
 Result<void> checkDictionary(plist_t dictionary, const EntityDescription& entity);

@@ -61,6 +61,10 @@ ActionResult DataInterchange::doTheNewBackup()
     if (!xml) {
         return failed(xml.error());
     }
+    // The last good safety copy stays rather than be replaced by a partial one.
+    if (!readable()) {
+        return ActionResult::Failed;
+    }
     QDir().mkpath(QFileInfo(backupPath_).absolutePath());
     if (auto written = writeFileAtomically(backupPath_, *xml); !written) {
         Error e = written.error();

@@ -91,18 +91,21 @@ ActionResult DataInterchange::backupCompleteTamoData()
     // What the user keeps: the chosen name with the extension "tamo2db", alone in the folder.
     const QFileInfo info(*chosen);
     const QString kept = info.absoluteDir().filePath(info.completeBaseName() + u".tamo2db"_qs);
-    const QString live = context->path();
-    const QString fresh = incomingStorePath(live);
-    if (auto written = writeStoreCopy(*context, fresh); !written) {
+    // The compact copy is written and checked where the user keeps it; the live store then
+    // continues on a copy of it, unless it is open for reading only (then it is not this
+    // process's to rewrite).
+    if (auto written = writeStoreCopy(*context, kept); !written) {
         logLine(u"Unable to add migratePersistentStore: %1", written.error());
         return failed(written.error());
     }
-    if (auto copied = copyFileAtomically(fresh, kept); !copied) {
-        QFile::remove(fresh);
+    if (session_.isReadOnly()) {
+        return ActionResult::Done;
+    }
+    const QString fresh = incomingStorePath(context->path());
+    if (auto copied = copyFileAtomically(kept, fresh); !copied) {
         logLine(u"Unable to acopyItemAtURL: %1", copied.error());
         return failed(copied.error());
     }
-    // The live store continues on the compact copy.
     auto reloaded =
         session_.reloadStore([&](const QString& path) { return putStoreFile(fresh, path); });
     if (!reloaded) {
@@ -117,7 +120,7 @@ ActionResult DataInterchange::backupCompleteTamoData()
 
 ActionResult DataInterchange::restoreCompleteTamoData()
 {
-    session_.managedObjectContext();  // a store that cannot be opened may still be replaced
+    session_.contextIfItOpens();  // a store that cannot be opened may still be replaced
     if (!confirmed(QStringLiteral("You are about to restore your entire E-Tamo database from a "
                                   "backup. This will irretrievably replace any existing data. Do "
                                   "you really want to do that?"),
@@ -209,7 +212,7 @@ ActionResult DataInterchange::restoreAutomaticallyFromSandbox()
                        {QStringLiteral("OK")}});
         return ActionResult::Failed;
     }
-    session_.managedObjectContext();
+    session_.contextIfItOpens();
     if (!confirmed(QStringLiteral("You are about to move the database of Tamo's Flatpak edition "
                                   "here. This will irretrievably replace any existing data. Do you "
                                   "really want to do that?"),
@@ -240,7 +243,7 @@ ActionResult DataInterchange::recoverPreviousDatabase()
                        {QStringLiteral("OK")}});
         return ActionResult::Cancelled;
     }
-    session_.managedObjectContext();
+    session_.contextIfItOpens();
     FileRequest panel = openPanel(QStringLiteral("Recover Previous Database"), u"zqdb"_qs);
     panel.directory = folder;
     const auto path = prompter_.chooseFileToOpen(panel);

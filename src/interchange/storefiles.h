@@ -17,11 +17,14 @@ namespace tamo {
 FileRequest savePanel(const QString& title, const QString& extension, const QString& proposedName);
 FileRequest openPanel(const QString& title, const QString& extension);
 
-// Writes a compact copy of the saved store to `target` (VACUUM INTO a file beside it, then
-// renamed into place), so that a failure never leaves half a file or removes an older one.
+// Writes a compact copy of the saved store to `target` (VACUUM INTO a file beside it, checked
+// with SQLite's integrity check, then renamed into place), so that a failure never leaves half a
+// file or removes an older one. The failure names the target and the cause.
 Result<void> writeStoreCopy(Context& context, const QString& target);
-// Opens `path` as a Tamo store (bringing an older layout up to date) and closes it again; an
-// error says why it cannot serve as one, calling it by `shownName`.
+// Checks that `path` can serve as the store: it passes SQLite's integrity check, it holds
+// exactly Tamo's tables, columns and indexes (no trigger, view or anything else), and it opens as
+// a store (an older layout is brought up to date). An error says why not, calling the file by
+// `shownName`.
 Result<void> checkStoreFile(const QString& path, const QString& shownName);
 // Puts the store file `source` in place of the closed store at `live`, dropping the journal
 // files of the store it replaces. The old file stays until the new one is in place.
@@ -29,7 +32,8 @@ Result<void> putStoreFile(const QString& source, const QString& live);
 // The file beside `live` into which a replacement is copied and checked first.
 QString incomingStorePath(const QString& live);
 
-// The store snapshots in the recovery folder, taken before wholesale replacements.
+// The store snapshots in the recovery folder, taken before wholesale replacements. The ten
+// newest are kept, and any older one that holds more records than every snapshot after it.
 class RecoverySnapshots {
 public:
     static constexpr int kKept = 10;
@@ -38,13 +42,19 @@ public:
 
     // Newest first.
     QStringList list() const;
+    // The newest snapshot that holds more records than the store file `live` holds now (the one
+    // to go back to after data went missing), else the newest; empty when there is none.
+    QString newestHoldingMoreThan(const QString& live) const;
     // Writes a snapshot of the store (of the file `live` when no context is open; nothing when
-    // there is no file either) and drops all but the newest ten. Returns the snapshot's path,
-    // empty when there was nothing to keep.
+    // there is no file either) and prunes the folder. When the newest snapshot holds exactly
+    // this state, no new one is made and that one's path is returned. Returns the snapshot's
+    // path, empty when there was nothing to keep.
     Result<QString> take(Context* context, const QString& live, const QDateTime& now,
                          const QString& reason);
 
 private:
+    void prune(const QStringList& newestFirst);
+
     QString folder_;
 };
 

@@ -1,6 +1,7 @@
 // The XML exports, the invoice and item backups and restores, the dump and the import of a
 // single document.
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include "interchange/datainterchange.h"
@@ -12,6 +13,11 @@
 namespace tamo {
 
 namespace {
+
+QString tr(const char* text, const char* disambiguation = nullptr, int n = -1)
+{
+    return QCoreApplication::translate("tamo::Interchange", text, disambiguation, n);
+}
 
 // The array of the records' dictionaries as an XML property list.
 Result<QByteArray> xmlOfRecords(const std::vector<Record*>& records)
@@ -59,19 +65,30 @@ QString DataInterchange::liveStorePath() const
     return context ? context->path() : storeFilePath(session_.settings(), session_.profile());
 }
 
-bool DataInterchange::snapshot(const QString& reason)
+std::optional<QString> DataInterchange::snapshot(const QString& reason)
 {
     auto taken = RecoverySnapshots(session_.profile().recoveryFolder)
                      .take(session_.context(), liveStorePath(), session_.clock().now(), reason);
     if (!taken) {
         Error e = taken.error();
-        e.reason =
-            (e.reason + QStringLiteral(" Without a recovery copy nothing was changed.")).trimmed();
+        e.reason = (e.reason + u' ' + tr("Without a recovery copy nothing was changed.")).trimmed();
         failed(e);
-        return false;
+        return std::nullopt;
     }
     if (!taken->isEmpty()) {
-        qCInfo(lcInterchange).noquote() << "Wrote the recovery copy" << *taken;
+        qCInfo(lcInterchange).noquote() << "The recovery copy is" << *taken;
+    }
+    return *taken;
+}
+
+bool DataInterchange::readable()
+{
+    const Context* context = session_.context();
+    if (context && context->readFailure()) {
+        Error e = *context->readFailure();
+        e.message = tr("No file was written: the store could not be read completely.");
+        failed(e);
+        return false;
     }
     return true;
 }
@@ -85,6 +102,9 @@ ActionResult DataInterchange::writeXml(const std::vector<Record*>& records,
                                        const FileRequest& panel)
 {
     auto xml = xmlOfRecords(records);
+    if (!readable()) {
+        return ActionResult::Failed;
+    }
     if (!xml) {
         Error e = xml.error();
         e.reason = QStringLiteral("No file was written.");
@@ -196,6 +216,7 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
     }
     Context& context = *session_.context();
     Result<void> outcome;
+    int renamed = 0;
     {
         UndoGroup group(context, QStringLiteral("Restore"));
         WithoutUndo quiet(context);
@@ -205,7 +226,8 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
         auto list = readPlistFile(path);
         if (!list) {
             outcome = std::unexpected(list.error());
-        } else if (auto created = createManagedObjectsFromList(std::move(*list), context, entity);
+        } else if (auto created =
+                       createManagedObjectsFromList(std::move(*list), context, entity, &renamed);
                    !created) {
             outcome = std::unexpected(created.error());
         }
@@ -220,13 +242,37 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
             e.message = QStringLiteral("The file “%1” could not be restored.")
                             .arg(QFileInfo(path).fileName());
         }
-        e.reason = (e.reason + QStringLiteral(" The records that were listed have been removed; "
-                                              "File › Recover Previous Database… brings them "
-                                              "back."))
+        // After failures in a row the newest copy may hold the emptied store: the message names
+        // the one that holds the data.
+        const QString name = QFileInfo(RecoverySnapshots(session_.profile().recoveryFolder)
+                                           .newestHoldingMoreThan(context.path()))
+                                 .fileName();
+        if (!e.reason.isEmpty() && !e.reason.endsWith(u'.')) {
+            e.reason += u'.';
+        }
+        e.reason = (e.reason + u' ' +
+                    tr("The records that were listed have been removed. The recovery copy “%1” "
+                       "holds them: File › Recover Previous Database… brings them back (on the "
+                       "command line: tamo --yes recover \"%1\").")
+                        .arg(name))
                        .trimmed();
         return failed(e);
     }
+    tellRenamed(renamed);
     return ActionResult::Done;
+}
+
+void DataInterchange::tellRenamed(int renamed)
+{
+    if (renamed == 0) {
+        return;
+    }
+    const QString text =
+        tr("%n record(s) carried an identity (uniqueID) that another record already has. Each "
+           "was given a new one, so that every record can be found by its own.",
+           nullptr, renamed);
+    qCInfo(lcInterchange).noquote() << text;
+    prompter_.ask({tr("Hint!"), text, {tr("OK")}});
 }
 
 ActionResult DataInterchange::exportAsInvoiceFile()
@@ -249,6 +295,9 @@ ActionResult DataInterchange::exportAsInvoiceFile()
             return failed(list.error());
         }
         plist_dict_set_item(dump.get(), key, list->release());
+    }
+    if (!readable()) {
+        return ActionResult::Failed;
     }
     auto archive = keyedArchive(dump.get());
     if (!archive) {
@@ -302,15 +351,17 @@ ActionResult DataInterchange::importInvoice()
         return refused(interchangeError(kWrongContent, QStringLiteral("It holds no document.")));
     }
     Result<Record*> imported;
+    int renamed = 0;
     {
         UndoGroup group(*context, QStringLiteral("Import Document"));
-        imported = createManagedObjectFromDictionary(document, *context, "Invoice");
+        imported = createManagedObjectFromDictionary(document, *context, "Invoice", &renamed);
     }
     if (!imported) {
         return refused(imported.error());
     }
     session_.documents().reveal(*imported);
     session_.saveContext();
+    tellRenamed(renamed);
     return ActionResult::Done;
 }
 

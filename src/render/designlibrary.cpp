@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QUuid>
 #include <algorithm>
 
 #include "interchange/recorddictionary.h"
@@ -175,16 +174,9 @@ Result<Record*> DesignLibrary::importDesignFile(const QString& path)
             return refused(created.error());
         }
         design = *created;
-        // An imported design is never the default, and it stays a design of its own when the
-        // same file is imported twice.
+        // An imported design is never the default; imported twice, it gets an identity of its
+        // own the second time (as every created record whose identity is taken does).
         design->setValue("isDefault", false);
-        const QString id = design->uniqueID();
-        const auto list = designs();
-        if (id.isEmpty() ||
-            std::ranges::count_if(list, [&](const Record* d) { return d->uniqueID() == id; }) > 1) {
-            design->setValue("uniqueID",
-                             QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
-        }
     }
     save();
     const std::vector<Record*> list = designs();
@@ -266,7 +258,6 @@ void DesignLibrary::loadTemplates()
                 << "Failed to load the built-in design" << name << inserted.error().text();
         }
     }
-    save();
 }
 
 void DesignLibrary::loadTamo2Template()
@@ -276,7 +267,6 @@ void DesignLibrary::loadTamo2Template()
         qCWarning(lcRender).noquote()
             << "Failed to load the built-in design Temp14" << inserted.error().text();
     }
-    save();
 }
 
 void DesignLibrary::loadBuiltInDesigns()
@@ -285,13 +275,22 @@ void DesignLibrary::loadBuiltInDesigns()
     if (!c) {
         return;
     }
-    // Part of setting the store up, not something the person did.
-    WithoutUndo automatic(*c);
-    if (!session_.settings().boolean(key::isFirstStoreLoadEverDone)) {
-        loadTemplates();
-        session_.settings().set(key::isFirstStoreLoadEverDone, true);
+    // The designs and the note in the store that they are there are saved in one transaction:
+    // a first start that is killed half-way leaves neither, and the next start loads them once.
+    // The settings' flags follow; a start that ended before them finds the note.
+    const QString mark = QStringLiteral("builtInDesignsLoaded");
+    if (c->storeMark(mark).isEmpty()) {
+        WithoutUndo automatic(*c);  // part of setting the store up, not something the person did
+        if (!session_.settings().boolean(key::isFirstStoreLoadEverDone)) {
+            loadTemplates();
+        }
+        loadTamo2Template();
+        c->setStoreMark(mark, QStringLiteral("1"));
+        if (!save()) {
+            return;
+        }
     }
-    loadTamo2Template();
+    session_.settings().set(key::isFirstStoreLoadEverDone, true);
 }
 
 void DesignLibrary::installHooks()

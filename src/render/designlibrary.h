@@ -41,9 +41,9 @@ public:
 
     // Inserts a shipped design from the application's resources.
     Result<Record*> insertBuiltInDesign(const QString& name, bool isDefault);
-    // The shipped designs Temp001 to Temp13, Temp001 the default.
+    // The shipped designs Temp001 to Temp13, Temp001 the default (inserted, not yet saved).
     void loadTemplates();
-    // The design added with the second edition, Temp14, as the default.
+    // The design added with the second edition, Temp14, as the default (not yet saved).
     void loadTamo2Template();
     // The store set-up's step (AppSession::Hooks::loadBuiltInDesigns): the first designs once per
     // installation, then the second edition's.

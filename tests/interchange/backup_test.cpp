@@ -250,10 +250,12 @@ TEST_F(BackupTest, AskedToOpenAFileTamoExplainsAndOpensNothing)
     EXPECT_EQ(store().count("Invoice"), 3);
 }
 
-TEST_F(BackupTest, OnlyTheTenNewestRecoveryCopiesAreKept)
+TEST_F(BackupTest, TheTenNewestRecoveryCopiesAreKept)
 {
     RecoverySnapshots snapshots(session.profile().recoveryFolder);
     for (int i = 0; i < 12; ++i) {
+        store().insert("RecentItem");
+        ASSERT_TRUE(session.saveContext());
         ASSERT_TRUE(snapshots.take(&store(), dir.storePath(), clock.now(), u"test"_qs));
     }
     const QStringList kept = snapshots.list();

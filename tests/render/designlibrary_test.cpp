@@ -63,6 +63,21 @@ TEST_F(DesignTest, TheStoreSetUpLoadsTheShippedDesignsOnce)
     EXPECT_EQ(second.designs().front()->uniqueID(), ids.front());
 }
 
+TEST_F(DesignTest, AFirstStartThatEndedBeforeItsFlagsLoadsNothingTwice)
+{
+    open();
+    // The process ended after the designs were saved and before the settings were written.
+    settings.remove(key::isFirstStoreLoadEverDone);
+    settings.remove(key::isTamo2TemplateLoadingDone);
+    AppSession again{dir.profile(), settings, clock, prompter};
+    DesignLibrary second{again};
+    second.installHooks();
+    ASSERT_NE(again.managedObjectContext(), nullptr);
+    EXPECT_EQ(second.designs().size(), 13u);
+    EXPECT_TRUE(settings.boolean(key::isFirstStoreLoadEverDone));
+    EXPECT_TRUE(settings.boolean(key::isTamo2TemplateLoadingDone));
+}
+
 TEST_F(DesignTest, TogetherTheShippedDesignsUseEveryPlaceholder)
 {
     open();
