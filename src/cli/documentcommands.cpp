@@ -3,6 +3,7 @@
 
 #include <QLocale>
 
+#include "calc/amountinput.h"
 #include "calc/totals.h"
 #include "cli/commands.h"
 #include "cli/consoleprompter.h"
@@ -117,6 +118,9 @@ std::optional<Failure> setStatusCommand(AppSession& session, const CommandArgs& 
         paid = QLocale::c().toDouble(args.value(u"--paid-amount"_qs), &ok);
         if (!ok) {
             return args.usage(u"--paid-amount needs a number such as 120.50"_qs);
+        }
+        if (const auto checked = checkedAmount(*paid); !checked) {
+            return Failure{QStringLiteral("set-status: %1").arg(checked.error())};
         }
     }
     auto d = select(session, args, 2);

@@ -1,5 +1,6 @@
 #include <QLocale>
 
+#include "calc/amountinput.h"
 #include "cli/commands.h"
 #include "documents/clients.h"
 #include "documents/lineitems.h"
@@ -29,6 +30,9 @@ std::optional<Failure> addItemCommand(AppSession& session, const CommandArgs& ar
     const double quantity = c.toDouble(args.value(u"--quantity"_qs), &quantityOk);
     if (!priceOk || !quantityOk) {
         return args.usage(u"--price and --quantity need numbers such as 12.50"_qs);
+    }
+    if (const auto checked = checkedLine(price, quantity); !checked) {
+        return Failure{QStringLiteral("add-item: %1").arg(checked.error())};
     }
     const QString name = args.operand(0);
     const auto document = selectDocument(session, name);

@@ -1,6 +1,7 @@
 // The settings and the setup on the command line: reading and writing single settings, the
 // starting values of a language, as the first page of the setup assistant applies them.
 
+#include "calc/amountinput.h"
 #include "cli/commands.h"
 #include "model/appsession.h"
 #include "render/designlibrary.h"
@@ -37,6 +38,12 @@ std::optional<Failure> listSettings(AppSession& session, const CommandArgs& args
     return std::nullopt;
 }
 
+// A value that did not reach the settings file is reported with the file and the cause.
+std::optional<Failure> written(const Settings& settings, bool ok)
+{
+    return ok ? std::nullopt : std::optional(Failure{settings.writeError()->text()});
+}
+
 std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
                                   const CommandArgs& args)
 {
@@ -49,8 +56,7 @@ std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
         if (!data) {
             return Failure{data.error().text()};
         }
-        session.settings().set(key, *data);
-        return std::nullopt;
+        return written(session.settings(), session.settings().set(key, *data));
     }
     if (args.operandCount() != 3) {
         return args.usage();
@@ -63,16 +69,24 @@ std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
                 QStringLiteral("prefsLogo holds an image: set it with --file IMAGE, or remove "
                                "it with an empty value"));
         }
-        session.settings().remove(key);
-        return std::nullopt;
+        return written(session.settings(), session.settings().remove(key));
     }
-    const auto value = Settings::fromText(key, text);
+    std::optional<QVariant> value;
+    if (isRateSetting(key)) {
+        // Rates are typed as percentages, as in the window: 19 and "19 %" are 0.19.
+        const auto rate = rateFromText(text);
+        if (!rate) {
+            return Failure{QStringLiteral("%1: %2").arg(QLatin1StringView(key.name), rate.error())};
+        }
+        value = *rate;
+    } else {
+        value = Settings::fromText(key, text);
+    }
     if (!value) {
         return Failure{QStringLiteral("%1 is not a valid value for %2")
                            .arg(text, QLatin1StringView(key.name))};
     }
-    session.settings().set(key, *value);
-    return std::nullopt;
+    return written(session.settings(), session.settings().set(key, *value));
 }
 
 }  // namespace

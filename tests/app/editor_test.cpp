@@ -95,6 +95,39 @@ TEST_F(EditorWindowTest, ANewInvoiceTakesALineFromTheItemPopoverShowsItsTotalsAn
     EXPECT_EQ(invoice->decimal("amount"), 0.0);
 }
 
+TEST_F(EditorWindowTest, AbsurdAmountsAreRefusedWithTheReasonBesideTheField)
+{
+    Record* invoice = document(1, 0);
+    window->action(u"addLine"_qs)->trigger();
+    ItemPopover* popover = editor().lines()->itemPopover();
+    auto* price = popover->findChild<QLineEdit*>(u"linePrice"_qs);
+    auto* quantity = popover->findChild<QLineEdit*>(u"lineQuantity"_qs);
+    popover->findChild<QLineEdit*>(u"lineTitle"_qs)->setText(u"Huge"_qs);
+    quantity->setText(u"1"_qs);
+    price->setText(u"1000000000000000"_qs);
+    popover->findChild<QPushButton*>(u"addLineButton"_qs)->click();
+    EXPECT_TRUE(popover->isVisible());
+    EXPECT_TRUE(price->toolTip().contains(u"too large")) << price->toolTip().toStdString();
+    quantity->setText(u"2000000"_qs);
+    price->setText(u"1000000"_qs);
+    popover->findChild<QPushButton*>(u"addLineButton"_qs)->click();
+    EXPECT_TRUE(price->toolTip().startsWith(u"The line comes to"));
+    EXPECT_TRUE(invoice->toMany("items").empty());
+
+    // The document's own amounts and rates: refused, and the stored value shown again.
+    editor().lines()->editDiscount();
+    QLineEdit* percent = nullptr;
+    for (auto* edit :
+         window->findChild<QWidget*>(u"discountPopover"_qs)->findChildren<QLineEdit*>()) {
+        percent = edit->placeholderText() == u"in %" ? edit : percent;
+    }
+    ASSERT_NE(percent, nullptr);
+    percent->setText(u"-20"_qs);
+    emit percent->editingFinished();
+    EXPECT_EQ(invoice->decimal("discountPercent"), 0.0);
+    EXPECT_EQ(percent->text(), u"0");
+}
+
 TEST_F(EditorWindowTest, ASentInvoiceChangesOnlyItsStatusAndPayment)
 {
     Record* invoice = document(1, 1);

@@ -57,6 +57,50 @@ TEST_F(CommandLineTest, SettingsAreReadAndWrittenInTheirType)
     EXPECT_TRUE(readFile(dir.path(u"store/Tamo.conf"_qs)).contains(u"tax1Rate=0.19"));
 }
 
+TEST_F(CommandLineTest, RatesAreReadAsPercentagesAndAbsurdAmountsAreRefused)
+{
+    for (const auto& [typed, stored] : {std::pair{u"19"_qs, u"0.19"_qs},
+                                        {u"19 %"_qs, u"0.19"_qs},
+                                        {u"7,5"_qs, u"0.075"_qs},
+                                        {u"0.07"_qs, u"0.07"_qs}}) {
+        SCOPED_TRACE(typed.toStdString());
+        EXPECT_EQ(tamo({u"settings"_qs, u"set"_qs, u"tax2Rate"_qs, typed}).code, 0);
+        EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"tax2Rate"_qs}).out, stored + u'\n');
+    }
+    for (const QString& typed : {u"-5"_qs, u"150"_qs, u"none"_qs}) {
+        const Outcome refused = tamo({u"settings"_qs, u"set"_qs, u"tax2Rate"_qs, typed});
+        EXPECT_EQ(refused.code, 1);
+        EXPECT_TRUE(refused.err.startsWith(u"tamo: tax2Rate: ")) << refused.err.toStdString();
+    }
+    EXPECT_EQ(tamo({u"settings"_qs, u"get"_qs, u"tax2Rate"_qs}).out, u"0.07\n");
+
+    ASSERT_EQ(tamo({u"new-invoice"_qs}).code, 0);
+    const QString id = QJsonDocument::fromJson(tamo({u"list"_qs, u"--json"_qs}).out.toUtf8())
+                           .array()[0][u"uniqueID"]
+                           .toString();
+    const struct {
+        const char16_t* price;
+        const char16_t* quantity;
+        const char16_t* message;
+    } amounts[] = {
+        {u"nan", u"1", u"tamo: add-item: “nan” is not a number Tamo can calculate with."},
+        {u"inf", u"1", u"tamo: add-item: “inf” is not a number Tamo can calculate with."},
+        {u"1e308", u"1", u"tamo: add-item: 1e+308 is too large: Tamo takes amounts of at most"},
+        {u"2", u"-1e13", u"tamo: add-item: -1e+13 is too large: Tamo takes amounts of at most"},
+        {u"1e9", u"1e6", u"tamo: add-item: The line comes to 1e+15, which is too large"},
+    };
+    for (const auto& a : amounts) {
+        SCOPED_TRACE(QString::fromUtf16(a.price).toStdString());
+        const Outcome refused =
+            tamo({u"add-item"_qs, id, u"--title"_qs, u"Line"_qs, u"--price"_qs,
+                  QString::fromUtf16(a.price), u"--quantity"_qs, QString::fromUtf16(a.quantity)});
+        EXPECT_EQ(refused.code, 1);
+        EXPECT_TRUE(refused.err.startsWith(QString::fromUtf16(a.message)))
+            << refused.err.toStdString();
+    }
+    EXPECT_EQ(queryText(dir.path(u"store/Tamo.zqdb"_qs), u"SELECT COUNT(*) FROM Item"_qs), u"0");
+}
+
 TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
 {
     struct Case {

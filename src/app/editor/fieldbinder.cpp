@@ -7,8 +7,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
+#include <QToolTip>
 
 #include "app/editor/datefield.h"
+#include "calc/amountinput.h"
 #include "calc/numberformat.h"
 #include "documents/documentfields.h"
 #include "model/appsession.h"
@@ -26,14 +28,21 @@ void setTextIfChanged(QLineEdit* edit, const QString& text)
     }
 }
 
-// Empty money or percent text means zero; other text must be a number.
-std::optional<Value> number(const QString& text, std::optional<double> (*parse)(QStringView text))
+// Empty money or percent text means zero; other text must be an amount or a rate Tamo takes. A
+// refusal is explained beside the field, which then shows the stored value again.
+std::optional<Value> number(QLineEdit* edit,
+                            std::expected<double, QString> (*parse)(QStringView text))
 {
+    const QString text = edit->text();
     if (text.trimmed().isEmpty()) {
         return Value(0.0);
     }
-    const std::optional<double> n = parse(text);
-    return n ? std::optional<Value>(*n) : std::nullopt;
+    const auto n = parse(text);
+    if (!n) {
+        QToolTip::showText(edit->mapToGlobal(QPoint(0, edit->height())), n.error(), edit);
+        return std::nullopt;
+    }
+    return Value(*n);
 }
 
 // A field that may not be changed looks it: the background of the window instead of a field's,
@@ -136,7 +145,7 @@ void FieldBinder::bindAmount(QLineEdit* edit, const char* key, const QString& un
     edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     add({edit, key, undoName, lock,
          [edit, key](const Record& r) { setTextIfChanged(edit, stringFromNumber(r.decimal(key))); },
-         [edit](const Record&) { return number(edit->text(), &decimalNumberFromString); },
+         [edit](const Record&) { return number(edit, &amountFromText); },
          [edit](bool editable) { setEditable(edit, editable); }});
     followTyping(edit);
 }
@@ -148,7 +157,7 @@ void FieldBinder::bindPercent(QLineEdit* edit, const char* key, const QString& u
          [edit, key](const Record& r) {
              setTextIfChanged(edit, decimalStringFromNumber(r.decimal(key) * 100));
          },
-         [edit](const Record&) { return number(edit->text(), &percentDecimalNumberFromString); },
+         [edit](const Record&) { return number(edit, &rateFromText); },
          [edit](bool editable) { setEditable(edit, editable); }});
     followTyping(edit);
 }

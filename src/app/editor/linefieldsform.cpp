@@ -5,7 +5,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QToolTip>
 
+#include "calc/amountinput.h"
 #include "calc/numberformat.h"
 #include "model/taxkeys.h"
 #include "settings/settings.h"
@@ -22,16 +24,26 @@ QLineEdit* lineEdit(QWidget* parent, const char* name, const QString& placeholde
     return edit;
 }
 
-// Marks a field whose text is no number, until it is read again.
-std::optional<double> readNumber(QLineEdit* edit)
+// Marks a field whose text Tamo cannot take, with the reason, until it is read again.
+bool markRefused(QLineEdit* edit, const QString& reason)
 {
-    const std::optional<double> n = decimalNumberFromString(edit->text());
-    edit->setStyleSheet(n ? QString() : QStringLiteral("QLineEdit { border: 1px solid #c62828; }"));
-    if (!n) {
+    const bool refused = !reason.isEmpty();
+    edit->setStyleSheet(refused ? QStringLiteral("QLineEdit { border: 1px solid #c62828; }")
+                                : QString());
+    edit->setToolTip(reason);
+    if (refused) {
         edit->setFocus(Qt::OtherFocusReason);
         edit->selectAll();
+        QToolTip::showText(edit->mapToGlobal(QPoint(0, edit->height())), reason, edit);
     }
-    return n;
+    return refused;
+}
+
+std::optional<double> readNumber(QLineEdit* edit)
+{
+    const auto n = amountFromText(edit->text());
+    markRefused(edit, n ? QString() : n.error());
+    return n ? std::optional(*n) : std::nullopt;
 }
 
 }  // namespace
@@ -103,7 +115,7 @@ void LineFieldsForm::setFields(const LineFields& fields, bool keepTaxes)
     quantity_->setText(decimalStringFromNumber(fields.quantity));
     price_->setText(stringFromNumber(fields.price));
     for (QLineEdit* e : {quantity_, price_}) {
-        e->setStyleSheet({});
+        markRefused(e, {});
     }
     if (!keepTaxes) {
         taxes_[0]->setChecked(fields.tax1);
@@ -117,6 +129,10 @@ std::optional<LineFields> LineFieldsForm::fields()
     const std::optional<double> quantity = readNumber(quantity_);
     const std::optional<double> price = quantity ? readNumber(price_) : std::nullopt;
     if (!quantity || !price) {
+        return std::nullopt;
+    }
+    if (const auto line = checkedLine(*price, *quantity); !line) {
+        markRefused(price_, line.error());
         return std::nullopt;
     }
     return LineFields{title_->text(),
