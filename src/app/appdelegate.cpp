@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTimer>
 #include <QUrl>
@@ -17,6 +18,7 @@
 #include "app/preferences/setupassistantsheet.h"
 #include "app/renderactions.h"
 #include "app/reportswindow.h"
+#include "model/sqlite.h"
 
 namespace tamo {
 
@@ -27,6 +29,11 @@ AppDelegate::AppDelegate(const Profile& profile)
       window_(std::make_unique<MainWindow>(session_, operations_))
 {
     prompter_.setParentWindow(window_.get());
+    // The window holds its store for as long as it is open; a command that holds it for a
+    // moment is waited for.
+    session_.setStoreUse(
+        {.lock = true, .window = true, .readsOnly = false, .wait = std::chrono::seconds(10)});
+    settings_.setWriteFailureHandler([this](const Error& error) { prompter_.presentError(error); });
     AppSession::Hooks& hooks = session_.hooks();
     hooks.commitEditing = [this] { return window_->editor()->commitEditing(); };
     hooks.relaunch = [this] {
@@ -80,7 +87,9 @@ void AppDelegate::start()
     installHelpMenu(*window_);
     window_->restoreLayout();
     window_->show();
-    session_.managedObjectContext();
+    if (!session_.managedObjectContext() && !offerRecovery()) {
+        return;
+    }
     DocumentList& documents = session_.documents();
     if (documents.size() > 0) {
         documents.setSelection({documents.at(0)});
@@ -90,6 +99,42 @@ void AppDelegate::start()
     scheduler_.deliverDue();
     // The safety copy follows the start-up steps once the window is up.
     QTimer::singleShot(0, this, [this] { interchange_.createBackup(); });
+}
+
+bool AppDelegate::offerRecovery()
+{
+    const std::optional<Error>& failure = session_.openFailure();
+    if (failure && failure->domain == QLatin1String(kLockErrorDomain) &&
+        failure->code == kStoreInUse) {
+        // Another Tamo holds the store (the reason has been shown): this window has nothing to
+        // show, and the other one stays in charge.
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return false;
+    }
+    if (!failure || failure->domain != QLatin1String(sql::kDomain) ||
+        !sql::isDamage(failure->code)) {
+        return true;
+    }
+    const QStringList copies = interchange_.recoverySnapshots();
+    const QString recover = tr("Recover Previous Database…");
+    const QString restore = tr("Restore E-Tamo Database…");
+    QString text =
+        tr("Tamo can put a copy of your data in place of the damaged store. The damaged "
+           "file is kept as a recovery copy.");
+    if (!copies.isEmpty()) {
+        text += u' ' + tr("The newest recovery copy is “%1”.").arg(QFileInfo(copies[0]).fileName());
+    }
+    QStringList buttons{restore, tr("Not Now")};
+    if (!copies.isEmpty()) {
+        buttons.prepend(recover);
+    }
+    const QString answer = prompter_.ask({tr("Recover Your Data"), text, buttons});
+    if (answer == recover) {
+        interchange_.recoverPreviousDatabase();
+    } else if (answer == restore) {
+        interchange_.restoreCompleteTamoData();
+    }
+    return true;
 }
 
 void AppDelegate::showNotifiedDocument(const QString& uniqueID)

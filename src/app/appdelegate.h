@@ -46,6 +46,9 @@ public:
     AccountingActions& accounting() { return *accounting_; }
 
 private:
+    // When the store could not be opened: quits when another Tamo holds it (false), offers the
+    // recovery copies and backups when it is damaged.
+    bool offerRecovery();
     // A click on a due-date notification: the window comes forward with that document alone.
     void showNotifiedDocument(const QString& uniqueID);
 

@@ -250,27 +250,33 @@ void MainWindow::updateActions()
     const Record* current = open ? session_.documents().current() : nullptr;
     const bool quote = current && current->integer("kind") == 0;
     const bool sent = current && current->integer("status") > 0;
+    // A store open for reading only leaves what reads: the list, the search, the filters and
+    // the reminder and delivery-slip previews.
+    const bool writable = open && !context->isReadOnly();
+    const QStringList reading{QStringLiteral("reminder"), QStringLiteral("deliverySlip")};
     for (const auto& [a, needs] : needs_) {
+        bool enabled = false;
         switch (needs) {
         case Needs::Store:
-            a->setEnabled(open);
+            enabled = open;
             break;
         case Needs::Document:
-            a->setEnabled(current);
+            enabled = current != nullptr;
             break;
         case Needs::Unsent:
-            a->setEnabled(current && !sent);
+            enabled = current && !sent;
             break;
         case Needs::Quote:
-            a->setEnabled(quote);
+            enabled = quote;
             break;
         case Needs::UnsentInvoice:
-            a->setEnabled(current && !quote && !sent);
+            enabled = current && !quote && !sent;
             break;
         case Needs::Deletable:
-            a->setEnabled(current && (quote || !sent));
+            enabled = current && (quote || !sent);
             break;
         }
+        a->setEnabled(enabled && (writable || reading.contains(a->objectName())));
     }
     filter_->setEnabled(open);
     // The toolbar shows the same name as the menu: "Delete Invoice" or "Delete Quote".
@@ -280,8 +286,8 @@ void MainWindow::updateActions()
 
     QAction* undo = action(QStringLiteral("undo"));
     QAction* redo = action(QStringLiteral("redo"));
-    const bool canUndo = open && context->undoManager().canUndo();
-    const bool canRedo = open && context->undoManager().canRedo();
+    const bool canUndo = writable && context->undoManager().canUndo();
+    const bool canRedo = writable && context->undoManager().canRedo();
     undo->setEnabled(canUndo);
     redo->setEnabled(canRedo);
     undo->setText(canUndo ? tr("&Undo %1").arg(context->undoManager().undoActionName())

@@ -57,7 +57,8 @@ MainWindow::MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> 
       table_(new DocumentTable(this)),
       search_(new QLineEdit(this)),
       editor_(new DocumentEditor(session, operations_, this)),
-      summary_(new QLabel(this))
+      summary_(new QLabel(this)),
+      readOnlyNotice_(new QLabel(this))
 {
     setUnifiedTitleAndToolBarOnMac(true);
 
@@ -105,6 +106,9 @@ MainWindow::MainWindow(AppSession& session, std::unique_ptr<DocumentOperations> 
     splitter->setChildrenCollapsible(false);
     setCentralWidget(splitter);
     statusBar()->addPermanentWidget(summary_);
+    readOnlyNotice_->setObjectName(QStringLiteral("readOnlyNotice"));
+    readOnlyNotice_->setVisible(false);
+    statusBar()->addWidget(readOnlyNotice_, 1);
 
     createActions();
 
@@ -154,8 +158,16 @@ void MainWindow::contextChanged()
                 Qt::UniqueConnection);
         connect(context, &Context::didSave, this, &MainWindow::updateActions, Qt::UniqueConnection);
     }
+    // A store that may only be read is said so where the person looks: the title and the status
+    // bar, which tells why.
+    const bool readOnly = session_.isReadOnly();
+    readOnlyNotice_->setVisible(readOnly);
+    readOnlyNotice_->setText(readOnly ? tr("Read-only: %1").arg(session_.readOnlyReason())
+                                      : QString());
+    readOnlyNotice_->setToolTip(readOnlyNotice_->text());
     updateStatistics();
     updateSummary();
+    updateWindowTitle();
     updateActions();
 }
 
@@ -166,6 +178,9 @@ void MainWindow::updateWindowTitle()
     QString title;
     if (d && !d->isDeleted()) {
         title = QStringList{d->string("title"), d->string("number")}.join(u' ').trimmed();
+    }
+    if (session_.isReadOnly()) {
+        title = tr("%1 (read-only)").arg(title.isEmpty() ? QStringLiteral("Tamo") : title);
     }
     setWindowTitle(title.isEmpty() ? QString() : title + QStringLiteral("[*]"));
 }

@@ -98,6 +98,7 @@ private:
     QLineEdit* search_;
     DocumentEditor* editor_;
     QLabel* summary_;
+    QLabel* readOnlyNotice_;
     QAction* filter_ = nullptr;
     QActionGroup* filterChoices_ = nullptr;
     QMenu* documentMenu_ = nullptr;

@@ -87,7 +87,9 @@ std::optional<Failure> openFileCommand(AppSession& session, const CommandArgs& a
 
 int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& err)
 {
-    return runOnSession(invocation, out, err, true, [&](AppSession& session) {
+    // Progress is shown as it happens.
+    const SessionUse use{.needsStore = true, .name = invocation.url, .holdOutput = false};
+    return runOnSession(invocation, out, err, use, [&](AppSession& session, QTextStream&) {
         DataInterchange interchange(session);
         DesignLibrary designs(session);
         ExternalRequests requests(session, interchange, designs);

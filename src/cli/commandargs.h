@@ -9,7 +9,8 @@ namespace tamo {
 
 inline constexpr int kUsageError = 2;
 
-// A command's failure: one line for the error stream and the exit code.
+// A command's failure: one line for the error stream (none when the reason has been printed
+// already) and the exit code.
 struct Failure {
     QString message;
     int code = 1;

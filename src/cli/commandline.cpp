@@ -1,5 +1,6 @@
 #include "cli/commandline.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -18,6 +19,9 @@
 namespace tamo {
 
 namespace {
+
+// How long a command that changes the store waits while another command holds it.
+constexpr std::chrono::milliseconds kCommandLockWait{60'000};
 
 QString dateText(const QDateTime& date)
 {
@@ -123,122 +127,137 @@ std::optional<Failure> generateSampleCommand(AppSession& session, const CommandA
 
 namespace {
 
+// What a command does to the store. One that only reads runs beside another Tamo that holds
+// the store, on a snapshot; one that writes waits while another command holds it and is refused
+// while a window does. `ListReads` only reads with the verb "list" or "export".
+enum class Access { Reads, Writes, ListReads };
+
 // Every command: its synopsis (name first; the options it names are the only ones accepted), a
-// note for the help, whether it needs the store, and what runs it.
+// note for the help, whether it needs the store, what it does to it, and what runs it.
 struct CommandEntry {
     const char16_t* synopsis;
     const char16_t* note;
     bool needsStore;
+    Access access;
     Command run;
 
     QString text() const { return QString::fromUtf16(synopsis); }
     QString name() const { return text().section(u' ', 0, 0); }
+    bool readsOnly(const CommandArgs& args) const
+    {
+        const QString verb = args.operand(0);
+        return access == Access::Reads ||
+               (access == Access::ListReads && (verb == u"list" || verb == u"export"));
+    }
 };
 
+constexpr auto R = Access::Reads;
+constexpr auto W = Access::Writes;
+
 const CommandEntry kCommands[] = {
-    {u"list [--json]", u"the listed documents, newest first", true, listCommand},
+    {u"list [--json]", u"the listed documents, newest first", true, R, listCommand},
     {u"settings get KEY | set KEY VALUE | set prefsLogo --file IMAGE | list [--changed]",
-     u"list --changed: what differs from the starting values of the language set up", false,
+     u"list --changed: what differs from the starting values of the language set up", false, R,
      settingsCommand},
     {u"setup --language en|de|fr|es",
      u"the starting values of a language, as the setup assistant's first page applies them", true,
-     setupCommand},
+     W, setupCommand},
     {u"generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]", nullptr,
-     true, generateSampleCommand},
-    {u"recalc", u"recalculates every document and prints the sums", true, recalcCommand},
-    {u"next-number invoice|quote|client", nullptr, true, nextNumberCommand},
-    {u"backup-invoices FILE", u"XML property list, .tamoinvoices", true, backupInvoicesCommand},
-    {u"restore-invoices FILE", nullptr, true, restoreInvoicesCommand},
-    {u"backup-items FILE", u"XML property list, .tamoitems", true, backupItemsCommand},
-    {u"restore-items FILE", nullptr, true, restoreItemsCommand},
-    {u"export-xml FILE", u"every invoice", true, exportXmlCommand},
-    {u"export-shown-xml FILE [--filter TAG] [--search TEXT]", u"the listed invoices", true,
+     true, W, generateSampleCommand},
+    {u"recalc", u"recalculates every document and prints the sums", true, W, recalcCommand},
+    {u"next-number invoice|quote|client", nullptr, true, R, nextNumberCommand},
+    {u"backup-invoices FILE", u"XML property list, .tamoinvoices", true, R, backupInvoicesCommand},
+    {u"restore-invoices FILE", nullptr, true, W, restoreInvoicesCommand},
+    {u"backup-items FILE", u"XML property list, .tamoitems", true, R, backupItemsCommand},
+    {u"restore-items FILE", nullptr, true, W, restoreItemsCommand},
+    {u"export-xml FILE", u"every invoice", true, R, exportXmlCommand},
+    {u"export-shown-xml FILE [--filter TAG] [--search TEXT]", u"the listed invoices", true, R,
      exportShownXmlCommand},
-    {u"backup-complete FILE", u"the store file, .tamo2db", true, backupCompleteCommand},
-    {u"restore-complete FILE", nullptr, false, restoreCompleteCommand},
-    {u"dump FILE", u"keyed archive of every invoice, .invdump", true, dumpCommand},
-    {u"import-document FILE", u"a document file, .tamo", true, importDocumentCommand},
-    {u"export-raw FILE", u"a raw store copy, .sqlite", true, exportRawCommand},
-    {u"import-raw FILE", nullptr, true, importRawCommand},
-    {u"move-from-flatpak", nullptr, false, moveFromFlatpakCommand},
+    {u"backup-complete FILE", u"the store file, .tamo2db", true, R, backupCompleteCommand},
+    {u"restore-complete FILE", nullptr, false, W, restoreCompleteCommand},
+    {u"dump FILE", u"keyed archive of every invoice, .invdump", true, R, dumpCommand},
+    {u"import-document FILE", u"a document file, .tamo", true, W, importDocumentCommand},
+    {u"export-raw FILE", u"a raw store copy, .sqlite", true, R, exportRawCommand},
+    {u"import-raw FILE", nullptr, true, W, importRawCommand},
+    {u"move-from-flatpak", nullptr, false, W, moveFromFlatpakCommand},
     {u"move-store (DIR | --default) [--backup FILE]",
-     u"a complete backup (default: the documents folder), then the store moves to DIR", true,
+     u"a complete backup (default: the documents folder), then the store moves to DIR", true, W,
      moveStoreCommand},
-    {u"safety-copy [--at-start]", nullptr, true, safetyCopyCommand},
-    {u"restore-safety-copy", nullptr, true, restoreSafetyCopyCommand},
+    {u"safety-copy [--at-start]", nullptr, true, R, safetyCopyCommand},
+    {u"restore-safety-copy", nullptr, true, W, restoreSafetyCopyCommand},
     {u"recover [COPY]",
      u"without COPY: lists the recovery copies; COPY is a copy's number, file name or path", false,
-     recoverCommand},
+     W, recoverCommand},
     {u"open FILE", u"answers as when the desktop opens a file: a design is offered for import",
-     true, openFileCommand},
-    {u"new-invoice", nullptr, true, newInvoiceCommand},
-    {u"new-quote", nullptr, true, newQuoteCommand},
-    {u"duplicate N [--with-items]", nullptr, true, duplicateCommand},
-    {u"convert N", u"a quote into an invoice", true, convertCommand},
-    {u"delete N [--adjust-counter]", nullptr, true, deleteCommand},
+     true, W, openFileCommand},
+    {u"new-invoice", nullptr, true, W, newInvoiceCommand},
+    {u"new-quote", nullptr, true, W, newQuoteCommand},
+    {u"duplicate N [--with-items]", nullptr, true, W, duplicateCommand},
+    {u"convert N", u"a quote into an invoice", true, W, convertCommand},
+    {u"delete N [--adjust-counter]", nullptr, true, W, deleteCommand},
     {u"set-status N STATUS [--paid-amount X]",
      u"STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)",
-     true, setStatusCommand},
-    {u"dispatch N", nullptr, true, dispatchCommand},
-    {u"filter TAG [--json]", u"0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent", true,
+     true, W, setStatusCommand},
+    {u"dispatch N", nullptr, true, W, dispatchCommand},
+    {u"filter TAG [--json]", u"0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent", true, R,
      filterCommand},
     {u"add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT] "
      u"[--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]",
-     nullptr, true, addItemCommand},
-    {u"set-client N (--vcard FILE [--index I] | --remembered ID)", u"I counts from 0", true,
+     nullptr, true, W, addItemCommand},
+    {u"set-client N (--vcard FILE [--index I] | --remembered ID)", u"I counts from 0", true, W,
      setClientCommand},
     {u"set N KEY=VALUE ...",
      u"the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, "
      u"e-invoice buyer; dates as 2026-03-05, percentages as 10",
-     true, setCommand},
-    {u"lines N", u"the document's lines, numbered as edit-line and delete-line take them", true,
+     true, W, setCommand},
+    {u"lines N", u"the document's lines, numbered as edit-line and delete-line take them", true, R,
      linesCommand},
     {u"edit-line N LINE KEY=VALUE ...",
      u"KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)", true,
-     editLineCommand},
-    {u"delete-line N LINE", nullptr, true, deleteLineCommand},
+     W, editLineCommand},
+    {u"delete-line N LINE", nullptr, true, W, deleteLineCommand},
     {u"einvoice N FILE [--force] [--conformant] [--standard]",
      u"XRechnung XML of document N, after the readiness check; --conformant writes the file the "
      u"EN 16931 rules require (default: setting prefsEvoiceConformantBool)",
-     true, einvoiceCommand},
+     true, W, einvoiceCommand},
     {u"einvoice-check N [--conformant] [--standard] [--json]",
      u"readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing fatal remains",
-     true, einvoiceCheckCommand},
-    {u"einvoice-details N [KEY=VALUE ...]", nullptr, true, einvoiceDetailsCommand},
-    {u"einvoice-notice", nullptr, false, einvoiceNoticeCommand},
+     true, R, einvoiceCheckCommand},
+    {u"einvoice-details N [KEY=VALUE ...]", nullptr, true, W, einvoiceDetailsCommand},
+    {u"einvoice-notice", nullptr, false, R, einvoiceNoticeCommand},
     {u"render N (--html FILE|- | --pdf FILE) [--reminder | --slip] [--design INDEX|TITLE]", nullptr,
-     true, renderCommand},
+     true, R, renderCommand},
     {u"export-pdfs DIR [--filter TAG] [--search TEXT]", u"every listed document, DIR/NUMBER_N.pdf",
-     true, exportPdfsCommand},
+     true, R, exportPdfsCommand},
     {u"designs list | add | import FILE | export INDEX FILE | default INDEX | select INDEX | "
      u"delete INDEX",
-     nullptr, true, designsCommand},
+     nullptr, true, Access::ListReads, designsCommand},
     {u"templates list | create N [NOTES] | apply INDEX N | delete INDEX", nullptr, true,
-     templatesCommand},
+     Access::ListReads, templatesCommand},
     {u"report [--from DATE --to DATE] [--filter TAG] [--search TEXT] (--html FILE|- | --pdf FILE "
      u"| --json)",
-     u"the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00", true,
+     u"the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00", true, R,
      reportCommand},
     {u"account-book [--filter TAG] [--search TEXT] --pdf FILE",
-     u"every listed document, oldest first, as PDF", true, accountBookCommand},
+     u"every listed document, oldest first, as PDF", true, R, accountBookCommand},
     {u"print N [--printer NAME]",
      u"prints document N on the default printer or NAME; marks an invoice as sent when "
      u"markInvoiceAsSent is on",
-     true, printCommand},
-    {u"pdf N FILE", u"document N as PDF file; marks an invoice as sent as print does", true,
+     true, W, printCommand},
+    {u"pdf N FILE", u"document N as PDF file; marks an invoice as sent as print does", true, W,
      pdfCommand},
     {u"mail N [--einvoice]",
      u"a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after "
      u"its checks; marks an invoice as sent as print does",
-     true, mailCommand},
+     true, W, mailCommand},
     {u"export-document N FILE [--xml]",
-     u"document file that import-document reads (.tamo), or its XML property list", true,
+     u"document file that import-document reads (.tamo), or its XML property list", true, W,
      exportDocumentCommand},
     {u"send-to ledrix|kelvane [--from DATE] [--to DATE] [--kind 0|1|2] [--items] [--no-open]",
      u"the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or "
      u".kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items "
      u"keeps each invoice's lines instead of one summary; prints the file's path",
-     true, sendToCommand},
+     true, W, sendToCommand},
 };
 
 const CommandEntry* findCommand(const QString& name)
@@ -342,12 +361,24 @@ Invocation parseInvocation(const QStringList& arguments)
     return inv;
 }
 
+namespace {
+
+// A failure's one line; an empty message when the reason has been printed already.
+int reportFailure(QTextStream& err, const QString& message, int code)
+{
+    if (!message.isEmpty()) {
+        err << "tamo: " << message << '\n';
+        err.flush();
+    }
+    return code;
+}
+
+}  // namespace
+
 int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
 {
     const auto report = [&](const QString& message, int code) {
-        err << "tamo: " << message << '\n';
-        err.flush();
-        return code;
+        return reportFailure(err, message, code);
     };
     if (!inv.error.isEmpty()) {
         return report(inv.error, kUsageError);
@@ -374,28 +405,48 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         return report(words.error().message, words.error().code);
     }
 
-    return runOnSession(inv, out, err, command->needsStore,
-                        [&](AppSession& session) { return command->run(session, *words, out); });
+    return runOnSession(
+        inv, out, err,
+        {.needsStore = command->needsStore, .readsOnly = command->readsOnly(*words), .name = name},
+        [&](AppSession& session, QTextStream& reported) {
+            return command->run(session, *words, reported);
+        });
 }
 
-int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, bool needsStore,
-                 const std::function<std::optional<Failure>(AppSession&)>& body)
+int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, const SessionUse& use,
+                 const std::function<std::optional<Failure>(AppSession&, QTextStream&)>& body)
 {
+    const auto report = [&](const QString& message, int code) {
+        return reportFailure(err, message, code);
+    };
     const Profile profile = inv.storeDirectory.isEmpty() ? Profile::standard()
                                                          : Profile::inDirectory(inv.storeDirectory);
     Settings settings(profile.settingsFile);
     SystemClock clock;
     ConsolePrompter prompter(err, inv.assumeYes);
     AppSession session(profile, settings, clock, prompter);
+    const bool readsOnly = use.readsOnly;
+    // One process writes a store at a time; a command that only reads runs beside the holder.
+    session.setStoreUse({.lock = true,
+                         .window = false,
+                         .readsOnly = readsOnly,
+                         .wait = readsOnly ? std::chrono::milliseconds(0) : kCommandLockWait});
     // The store set-up loads the shipped designs, as in the window.
     DesignLibrary designs(session);
     designs.installHooks();
     // Commands see the settings as the window does after its start-up steps.
     applyOneTimeUpdates(settings);
-    if (needsStore) {
+    if (use.needsStore) {
         Context* context = session.managedObjectContext();
         if (!context) {
             return 1;  // the prompter has said why
+        }
+        if (!readsOnly && context->isReadOnly()) {
+            return report(QCoreApplication::translate("tamo::Cli",
+                                                      "the store “%1” may only be read: %2 "
+                                                      "“%3” would change it.")
+                              .arg(context->path(), session.readOnlyReason(), use.name),
+                          1);
         }
         // A command on the store is a run of the application: it starts as the window does
         // (without the window's sheets) and quits as it does, so that the next start knows how
@@ -406,15 +457,16 @@ int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, bool
         WithoutUndo automatic(*context);
         Totals(session).calculateDatabase();
     }
-    const auto report = [&](const QString& message, int code) {
-        if (!message.isEmpty()) {
-            err << "tamo: " << message << '\n';
-            err.flush();
-        }
-        return code;
+    QString output;
+    QTextStream buffered(&output);
+    std::optional<Failure> failure = body(session, use.holdOutput ? buffered : out);
+    buffered.flush();
+    // What the command reports is printed once its work is saved: a command never says it
+    // created something that then failed to reach the store.
+    const auto printOutput = [&] {
+        out << output;
+        out.flush();
     };
-    std::optional<Failure> failure = body(session);
-    out.flush();
     // A command that failed keeps nothing of what it began.
     if (failure && session.context()) {
         session.context()->rollback();
@@ -422,12 +474,17 @@ int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, bool
     // Commands that replace the store open it on their own; they end as a run on it too.
     if (session.context()) {
         if (session.applicationShouldTerminate() == AppSession::TerminateReply::Cancel) {
-            return failure ? report(failure->message, failure->code) : 1;
+            if (failure) {
+                printOutput();
+                return report(failure->message, failure->code);
+            }
+            return 1;
         }
         session.applicationWillTerminate();
     } else if (!session.saveContext()) {
         return 1;
     }
+    printOutput();
     if (failure) {
         return report(failure->message, failure->code);
     }

@@ -28,12 +28,24 @@ Invocation parseInvocation(const QStringList& arguments);
 // errors are one line on `err`.
 int runCommand(const Invocation& invocation, QTextStream& out, QTextStream& err);
 
-// Runs `body` on a session of the invocation's profile, as every command runs: the shipped designs
-// and the one-time updates as in the window, and with `needsStore` the store opened and the
-// statistics pass run. A failure is written to `err` (unless its message is empty: already said);
-// the session saves afterwards. Returns the process exit code.
-int runOnSession(const Invocation& invocation, QTextStream& out, QTextStream& err, bool needsStore,
-                 const std::function<std::optional<Failure>(AppSession&)>& body);
+// How a command uses its session. One that only reads runs beside another Tamo that holds the
+// store, on a snapshot; one that writes waits while another command holds it and is refused while
+// a window does. With `holdOutput` what the body reports is printed once its work is saved.
+struct SessionUse {
+    bool needsStore = true;
+    bool readsOnly = false;
+    QString name;  // the command, as the refusal names it
+    bool holdOutput = true;
+};
+
+// Runs `body` on a session of the invocation's profile, as every command runs: the store's lock
+// as `use` says, the shipped designs and the one-time updates as in the window, and with
+// `needsStore` the store opened and the statistics pass run. `body` reports on the stream it is
+// given. A failure is written to `err` (unless its message is empty: already said); the session
+// saves afterwards. Returns the process exit code.
+int runOnSession(const Invocation& invocation, QTextStream& out, QTextStream& err,
+                 const SessionUse& use,
+                 const std::function<std::optional<Failure>(AppSession&, QTextStream&)>& body);
 
 // Answers a tamo:// URL without a window (none runs for the store): the import request writes its
 // PDFs and list, reporting progress on `out`, and calls Ledrix back. Returns the exit code once

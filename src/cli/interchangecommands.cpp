@@ -27,7 +27,7 @@ std::optional<Failure> outcome(ActionResult result, const QString& name)
     case ActionResult::Failed:
         break;
     }
-    return Failure{QStringLiteral("%1 failed").arg(name)};
+    return Failure{QString()};  // the reason has been printed
 }
 
 std::optional<Failure> runWithFile(AppSession& session, const QString& file, const QString& name,

@@ -1,5 +1,7 @@
 #include "documents/lifecycle.h"
 
+#include <QCoreApplication>
+
 #include "calc/numbering.h"
 #include "calc/totals.h"
 #include "documents/notificationscheduler.h"
@@ -33,8 +35,25 @@ bool isCurrentInvoiceSent(AppSession& session)
     return d && d->integer("status") > 0;
 }
 
+bool refuseChangesToReadOnlyStore(AppSession& session)
+{
+    if (!session.isReadOnly()) {
+        return false;
+    }
+    session.prompter().ask({QStringLiteral("Error!"),
+                            QCoreApplication::translate("tamo::Store",
+                                                        "This store is open for reading only, so "
+                                                        "nothing in it can be changed. %1")
+                                .arg(session.readOnlyReason()),
+                            {QStringLiteral("OK")}});
+    return true;
+}
+
 bool refuseChangesToSentDocument(AppSession& session)
 {
+    if (refuseChangesToReadOnlyStore(session)) {
+        return true;
+    }
     if (!isCurrentInvoiceSent(session)) {
         return false;
     }
@@ -294,7 +313,7 @@ bool DocumentLifecycle::deleteInvoice()
 void DocumentLifecycle::setDispatched()
 {
     Record* d = currentInvoice();
-    if (!d || !session_.context()) {
+    if (!d || !session_.context() || refuseChangesToReadOnlyStore()) {
         return;
     }
     {

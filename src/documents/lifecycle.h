@@ -30,9 +30,11 @@ struct NotificationRequest {
 // Whether the current document is marked as sent (status above 0); it is then locked against
 // changes apart from its status and payment.
 bool isCurrentInvoiceSent(AppSession& session);
-// The guard of every editing action: shows the "already sent" alert and returns true when the
-// current document may not be changed.
+// The guard of every editing action: shows the "already sent" alert (or, for a store open for
+// reading only, says so) and returns true when the current document may not be changed.
 bool refuseChangesToSentDocument(AppSession& session);
+// Says so and returns true when the store is open for reading only.
+bool refuseChangesToReadOnlyStore(AppSession& session);
 
 // The life of one document: creating invoices and quotes, duplicating, converting, deleting,
 // dispatching, the list filters, the reminder and slip texts and the due-date notification. Each
@@ -47,6 +49,10 @@ public:
     Record* currentInvoice() const { return session_.documents().current(); }
     bool isCurrentInvoiceSent() const { return tamo::isCurrentInvoiceSent(session_); }
     bool refuseChangesToSentDocument() const { return tamo::refuseChangesToSentDocument(session_); }
+    bool refuseChangesToReadOnlyStore() const
+    {
+        return tamo::refuseChangesToReadOnlyStore(session_);
+    }
 
     Record* addInvoice();
     Record* addQuote();

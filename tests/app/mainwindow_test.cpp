@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTableView>
@@ -11,6 +12,7 @@
 #include "app/mainwindow.h"
 #include "cli/samplegenerator.h"
 #include "platform/manual.h"
+#include "support/scratchfs.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -28,6 +30,41 @@ QAction* action(MainWindow& window, const QString& text)
         }
     }
     return nullptr;
+}
+
+TEST(MainWindowTest, AStoreInAReadOnlyFolderIsShownForReading)
+{
+    TempProfile dir;
+    const QString folder = dir.path(u"shared"_qs);
+    QDir().mkpath(folder);
+    {
+        auto context = openContext(folder + u"/Tamo.zqdb"_qs);
+        SystemClock clock;
+        ASSERT_TRUE(generateSample(*context, clock, {4, 2, 2, 7}));
+    }
+    Settings(dir.profile().settingsFile).set(key::useCustomPath, true);
+    Settings(dir.profile().settingsFile).set(key::customDatabasePath, folder);
+    ReadOnlyFolder readOnly(folder);
+    if (!readOnly.available()) {
+        GTEST_SKIP() << readOnly.reason().toStdString();
+    }
+    AppDelegate delegate(dir.profile());
+    delegate.start();
+    MainWindow& window = delegate.window();
+    EXPECT_EQ(window.documentTable()->model()->rowCount(), 4);
+    EXPECT_TRUE(window.windowTitle().contains(u"(read-only)"))
+        << window.windowTitle().toStdString();
+    auto* notice = window.findChild<QLabel*>(u"readOnlyNotice"_qs);
+    ASSERT_NE(notice, nullptr);
+    EXPECT_FALSE(notice->isHidden());
+    EXPECT_TRUE(
+        notice->text().startsWith(QStringLiteral("Read-only: Its folder “%1”").arg(folder)));
+    for (const char16_t* name : {u"newInvoice", u"deleteInvoice", u"addLine", u"undo"}) {
+        EXPECT_FALSE(window.action(QString::fromUtf16(name))->isEnabled())
+            << QString::fromUtf16(name).toStdString();
+    }
+    EXPECT_TRUE(window.action(u"reminder"_qs)->isEnabled());
+    EXPECT_TRUE(window.editor()->findChild<QLineEdit*>(u"title"_qs)->isReadOnly());
 }
 
 TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)

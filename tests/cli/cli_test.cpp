@@ -101,6 +101,21 @@ TEST_F(CommandLineTest, RatesAreReadAsPercentagesAndAbsurdAmountsAreRefused)
     EXPECT_EQ(queryText(dir.path(u"store/Tamo.zqdb"_qs), u"SELECT COUNT(*) FROM Item"_qs), u"0");
 }
 
+TEST_F(CommandLineTest, ACommandThatCouldNotSaveClaimsNothing)
+{
+    ASSERT_EQ(tamo({u"list"_qs}).code, 0);
+    execSql(dir.path(u"store/Tamo.zqdb"_qs),
+            u"CREATE TRIGGER full BEFORE INSERT ON Invoice "
+            u"BEGIN SELECT RAISE(ABORT, 'database or disk is full'); END"_qs);
+    const Outcome created = tamo({u"new-invoice"_qs});
+    EXPECT_EQ(created.code, 1);
+    EXPECT_TRUE(created.out.isEmpty()) << created.out.toStdString();
+    EXPECT_TRUE(created.err.contains(u"could not be written")) << created.err.toStdString();
+    for (const char16_t* sql : {u"INSERT", u"BEGIN", u"COMMIT", u"Unknown error"}) {
+        EXPECT_FALSE(created.err.contains(QString::fromUtf16(sql))) << created.err.toStdString();
+    }
+}
+
 TEST_F(CommandLineTest, MistakesGiveOneClearLineAndAnErrorCode)
 {
     struct Case {

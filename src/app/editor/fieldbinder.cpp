@@ -229,6 +229,7 @@ void FieldBinder::refresh()
         return;
     }
     const bool locked = isLocked();
+    const bool readOnly = session_.isReadOnly();
     const QScopedValueRollback quiet(showing_, true);
     for (size_t i = 0; i < bindings_.size(); ++i) {
         const Binding& b = bindings_[i];
@@ -236,7 +237,7 @@ void FieldBinder::refresh()
         if (!typing_ || *typing_ != i) {
             b.show(*r);
         }
-        b.setEditable(b.lock == Lock::Never || !locked);
+        b.setEditable(!readOnly && (b.lock == Lock::Never || !locked));
     }
 }
 
@@ -275,6 +276,10 @@ void FieldBinder::writeTo(const Binding& binding, Record* r)
         pause_.stop();
     }
     const std::optional<Value> value = binding.read(*r);
+    if (session_.isReadOnly()) {
+        binding.show(*r);  // nothing in a store open for reading only changes
+        return;
+    }
     {
         const QScopedValueRollback guard(writing_, true);
         if (value) {
