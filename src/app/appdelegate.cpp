@@ -147,6 +147,9 @@ void AppDelegate::showNotifiedDocument(const QString& uniqueID)
 
 void AppDelegate::listen(const QString& socketName)
 {
+    if (session_.lockHolder()) {
+        return;  // the Tamo that holds the store listens, and this one is about to quit
+    }
     if (auto listening = listener_.listen(socketName); !listening) {
         qWarning().noquote() << listening.error().text();
     }

@@ -58,9 +58,7 @@ int main(int argc, char** argv)
         arguments << QString::fromLocal8Bit(argv[i]);
     }
     const tamo::Invocation invocation = tamo::parseInvocation(arguments);
-    const tamo::Profile profile = invocation.storeDirectory.isEmpty()
-                                      ? tamo::Profile::standard()
-                                      : tamo::Profile::inDirectory(invocation.storeDirectory);
+    const tamo::Profile profile = tamo::profileOf(invocation);
     QTextStream out(stdout);
     QTextStream err(stderr);
 

@@ -11,6 +11,9 @@
 #include "cli/commands.h"
 #include "interchange/datainterchange.h"
 #include "model/appsession.h"
+#include "model/storelocation.h"
+#include "model/storelock.h"
+#include "platform/handoff.h"
 #include "render/designlibrary.h"
 
 namespace tamo {
@@ -83,6 +86,21 @@ std::optional<Failure> openFileCommand(AppSession& session, const CommandArgs& a
     DesignLibrary designs(session);
     ExternalRequests(session, interchange, designs).openFile(args.operand(0));
     return std::nullopt;
+}
+
+bool handToWindow(const Invocation& invocation, const QStringList& arguments, QTextStream& out)
+{
+    const Profile profile = profileOf(invocation);
+    const QString folder = storeFolder(Settings(profile.settingsFile), profile);
+    const auto holder = StoreLock::currentHolder(folder + u'/' + QLatin1String(kStoreFileName));
+    if (!holder || !holder->window || !handOff(handoffSocketName(folder), arguments)) {
+        return false;
+    }
+    out << QCoreApplication::translate("tamo::AccountingCommands", "Handed “%1” to %2.")
+               .arg(arguments.join(u' '), holder->describe())
+        << '\n';
+    out.flush();
+    return true;
 }
 
 int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& err)

@@ -405,6 +405,11 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         return report(words.error().message, words.error().code);
     }
 
+    // A file to open goes to the window that holds the store, as from the file manager.
+    if (name == u"open" &&
+        handToWindow(inv, {QFileInfo(words->operand(0)).absoluteFilePath()}, out)) {
+        return 0;
+    }
     return runOnSession(
         inv, out, err,
         {.needsStore = command->needsStore, .readsOnly = command->readsOnly(*words), .name = name},
@@ -413,14 +418,19 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
         });
 }
 
+Profile profileOf(const Invocation& invocation)
+{
+    return invocation.storeDirectory.isEmpty() ? Profile::standard()
+                                               : Profile::inDirectory(invocation.storeDirectory);
+}
+
 int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, const SessionUse& use,
                  const std::function<std::optional<Failure>(AppSession&, QTextStream&)>& body)
 {
     const auto report = [&](const QString& message, int code) {
         return reportFailure(err, message, code);
     };
-    const Profile profile = inv.storeDirectory.isEmpty() ? Profile::standard()
-                                                         : Profile::inDirectory(inv.storeDirectory);
+    const Profile profile = profileOf(inv);
     Settings settings(profile.settingsFile);
     SystemClock clock;
     ConsolePrompter prompter(err, inv.assumeYes);

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "cli/commandargs.h"
+#include "platform/profile.h"
 
 namespace tamo {
 
@@ -23,6 +24,8 @@ struct Invocation {
 };
 
 Invocation parseInvocation(const QStringList& arguments);
+// The profile the invocation works on: its --store folder, else the user's own folders.
+Profile profileOf(const Invocation& invocation);
 
 // Runs one command without a window and returns the process exit code. Output goes to `out`;
 // errors are one line on `err`.
@@ -51,6 +54,11 @@ int runOnSession(const Invocation& invocation, QTextStream& out, QTextStream& er
 // PDFs and list, reporting progress on `out`, and calls Ledrix back. Returns the exit code once
 // the request is done.
 int runUrlRequest(const Invocation& invocation, QTextStream& out, QTextStream& err);
+
+// While a Tamo window holds the invocation's store, a request goes to it rather than to a second
+// writer: hands it `arguments` (tamo:// URLs, absolute file paths) and says so on `out`. False
+// when no window holds the store or it did not take them.
+bool handToWindow(const Invocation& invocation, const QStringList& arguments, QTextStream& out);
 
 QString usage();
 // The usage and note of one command; empty for an unknown command.

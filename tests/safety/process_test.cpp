@@ -108,6 +108,19 @@ TEST_F(ProcessTest, AWindowHoldsItsStoreAndCommandsThatOnlyReadRunBesideIt)
     EXPECT_EQ(queryText(dir.filePath(u"c.tamo2db"_qs), u"SELECT COUNT(*) FROM Invoice"_qs), u"5");
     EXPECT_EQ(window.state(), QProcess::Running);
 
+    // A file to open goes to the window, as from the file manager.
+    const QString note = dir.filePath(u"note.txt"_qs);
+    QFile file(note);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("a note") == 6);
+    file.close();
+    const Outcome handed = tamo({u"open"_qs, note});
+    EXPECT_EQ(handed.code, 0) << handed.err.toStdString();
+    EXPECT_EQ(handed.out, QStringLiteral("Handed “%1” to the Tamo window (process %2, started as "
+                                         "“tamo --store %3”).\n")
+                              .arg(note)
+                              .arg(window.processId())
+                              .arg(store));
+
     // A window that died leaves a lock that the next command takes over.
     window.kill();
     window.waitForFinished();
