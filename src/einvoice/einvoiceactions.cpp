@@ -2,13 +2,13 @@
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
-#include <QSaveFile>
 
 #include "calc/totals.h"
 #include "documents/lineitems.h"
 #include "einvoice/decimal.h"
 #include "einvoice/rulecheck.h"
 #include "einvoice/ubldocument.h"
+#include "platform/filewriting.h"
 
 namespace tamo {
 
@@ -190,21 +190,17 @@ Result<void> EinvoiceActions::writeEvoiceXML(const QString& path,
     if (!xml) {
         return fail(QStringLiteral("tamo.einvoice"), 2, xml.error().message);
     }
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(xml->toUtf8());
-        if (file.commit()) {
-            qCInfo(lcEinvoice).noquote()
-                << QStringLiteral("File saved successfully at %1").arg(path);
-            return {};
-        }
+    if (auto written = writeFileAtomically(path, xml->toUtf8()); !written) {
+        qCWarning(lcEinvoice).noquote()
+            << QStringLiteral("Error saving file: %1").arg(written.error().reason);
+        return fail(
+            QStringLiteral("tamo.einvoice"), 1,
+            QCoreApplication::translate("Einvoice", "The e-invoice could not be saved at %1.")
+                .arg(path),
+            written.error().reason);
     }
-    qCWarning(lcEinvoice).noquote()
-        << QStringLiteral("Error saving file: %1").arg(file.errorString());
-    return fail(QStringLiteral("tamo.einvoice"), 1,
-                QCoreApplication::translate("Einvoice", "The e-invoice could not be saved at %1.")
-                    .arg(path),
-                file.errorString());
+    qCInfo(lcEinvoice).noquote() << QStringLiteral("File saved successfully at %1").arg(path);
+    return {};
 }
 
 void EinvoiceActions::writeEvoiceXMLToDisk(const EinvoiceOptions& options)

@@ -227,6 +227,18 @@ TEST_F(ProcessTest, AFullDiskFailsTheBackupWithTheFileAndTheCause)
             .arg(disk.filePath(u"Archive.tamo2db"_qs))))
         << backup.err.toStdString();
     EXPECT_EQ(QDir(disk.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+
+    const QString created = tamo({u"new-invoice"_qs}).out;
+    const QString document = created.trimmed().section(u' ', -1).remove(u'(').remove(u')');
+    disk.fill();
+    const Outcome einvoice =
+        tamo({u"einvoice"_qs, document, disk.filePath(u"A.xml"_qs), u"--force"_qs});
+    EXPECT_EQ(einvoice.code, 1);
+    EXPECT_TRUE(einvoice.err.endsWith(
+        QStringLiteral("tamo: The e-invoice could not be saved at %1. The disk is full.\n")
+            .arg(disk.filePath(u"A.xml"_qs))))
+        << einvoice.err.toStdString();
+    EXPECT_EQ(QDir(disk.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST_F(ProcessTest, AStoreInAReadOnlyFolderIsReadAndNotChanged)
