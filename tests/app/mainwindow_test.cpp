@@ -2,10 +2,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 
 #include "app/appdelegate.h"
 #include "app/editor/documenteditor.h"
@@ -32,16 +36,20 @@ QAction* action(MainWindow& window, const QString& text)
     return nullptr;
 }
 
+// A store of `documents` sample documents (and `clients` clients) at `path`, written and closed.
+void makeSampleStore(const QString& path, int documents, int clients)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    auto context = openContext(path);
+    SystemClock clock;
+    ASSERT_TRUE(generateSample(*context, clock, {documents, 2, clients, 7}));
+}
+
 TEST(MainWindowTest, AStoreInAReadOnlyFolderIsShownForReading)
 {
     TempProfile dir;
     const QString folder = dir.path(u"shared"_qs);
-    QDir().mkpath(folder);
-    {
-        auto context = openContext(folder + u"/Tamo.zqdb"_qs);
-        SystemClock clock;
-        ASSERT_TRUE(generateSample(*context, clock, {4, 2, 2, 7}));
-    }
+    makeSampleStore(folder + u"/Tamo.zqdb"_qs, 4, 2);
     Settings(dir.profile().settingsFile).set(key::useCustomPath, true);
     Settings(dir.profile().settingsFile).set(key::customDatabasePath, folder);
     ReadOnlyFolder readOnly(folder);
@@ -67,15 +75,61 @@ TEST(MainWindowTest, AStoreInAReadOnlyFolderIsShownForReading)
     EXPECT_TRUE(window.editor()->findChild<QLineEdit*>(u"title"_qs)->isReadOnly());
 }
 
+TEST(MainWindowTest, ADamagedStoreOffersTheRecoveryCopies)
+{
+    TempProfile dir;
+    makeSampleStore(dir.storePath(), 4, 2);
+    QDir().mkpath(dir.profile().recoveryFolder);
+    const QString copy = u"000001 2026-03-01 09.00.00 before Restore.zqdb"_qs;
+    ASSERT_TRUE(QFile::copy(dir.storePath(), dir.profile().recoveryFolder + u'/' + copy));
+    QFile file(dir.storePath());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write(QByteArray(100, '\xff'));  // the header: no database any more
+    file.close();
+
+    // Each alert is read and answered "Not Now" (or its only button).
+    QStringList alerts;
+    QStringList offered;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) {
+            return;
+        }
+        alerts << box->text() + u' ' + box->informativeText();
+        QAbstractButton* chosen = box->buttons().value(0);
+        for (QAbstractButton* b : box->buttons()) {
+            offered << b->text();
+            if (b->text() == u"Not Now") {
+                chosen = b;
+            }
+        }
+        chosen->click();
+    });
+    answer.start(20);
+    AppDelegate delegate(dir.profile());
+    delegate.start();
+    answer.stop();
+
+    ASSERT_EQ(alerts.size(), 3) << alerts.join(u'\n').toStdString();
+    EXPECT_TRUE(
+        alerts[0].contains(QStringLiteral("The store “%1” is damaged.").arg(dir.storePath())))
+        << alerts[0].toStdString();
+    EXPECT_TRUE(alerts[2].contains(QStringLiteral("The newest recovery copy is “%1”.").arg(copy)))
+        << alerts[2].toStdString();
+    for (const char16_t* button : {u"Recover Previous Database…", u"Restore E-Tamo Database…"}) {
+        EXPECT_TRUE(offered.contains(QString::fromUtf16(button)));
+    }
+    EXPECT_EQ(delegate.window().documentTable()->model()->rowCount(), 0);
+    // Nothing was changed: the damaged file waits for the recovery to replace it.
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.read(100), QByteArray(100, '\xff'));
+}
+
 TEST(MainWindowTest, AnEditInTheWindowIsSavedUndoneAndSurvivesQuitting)
 {
     TempProfile dir;
-    QDir().mkpath(dir.profile().supportFolder);
-    {
-        auto context = openContext(dir.storePath());
-        SystemClock clock;
-        ASSERT_TRUE(generateSample(*context, clock, {12, 2, 3, 7}));
-    }
+    makeSampleStore(dir.storePath(), 12, 3);
     AppDelegate delegate(dir.profile());
     delegate.start();
     MainWindow& window = delegate.window();
