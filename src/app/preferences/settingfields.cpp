@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include "calc/amountinput.h"
 #include "calc/numberformat.h"
 
 namespace tamo {
@@ -199,8 +200,8 @@ NumberField* SettingFields::percent(const SettingKey& key, QWidget* parent)
         if (text.isEmpty()) {
             return QVariant(0.0);
         }
-        const auto rate = percentDecimalNumberFromString(text);
-        return rate && *rate >= 0 && *rate <= 1 ? std::optional(QVariant(*rate)) : std::nullopt;
+        const auto rate = rateFromText(text);
+        return rate ? std::optional(QVariant(*rate)) : std::nullopt;
     };
     const auto show = [](const QVariant& value) {
         return decimalStringFromNumber(value.toDouble() * 100);
