@@ -4,7 +4,7 @@
 #include <QLocale>
 #include <algorithm>
 
-#include "calc/numberformat.h"
+#include "calc/amountinput.h"
 #include "cli/commands.h"
 #include "documents/documentfields.h"
 #include "documents/lifecycle.h"
@@ -229,9 +229,9 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
             }
         }
         if (key == u"price" || key == u"quantity") {
-            const std::optional<double> n = decimalNumberFromString(text);
+            const auto n = amountFromText(text);
             if (!n) {
-                return args.usage(QStringLiteral("%1 is not an amount for %2").arg(text, key));
+                return Failure{QStringLiteral("edit-line: %1: %2").arg(key, n.error())};
             }
             (key == u"price" ? fields->price : fields->quantity) = *n;
             known = true;
@@ -242,6 +242,9 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
                                              "tax2, tax3")
                                   .arg(key));
         }
+    }
+    if (const auto checked = checkedLine(fields->price, fields->quantity); !checked) {
+        return Failure{QStringLiteral("edit-line: %1").arg(checked.error())};
     }
     lines.editItem(line, *fields);
     out << QStringLiteral("Changed \"%1\" of %2; its total is now %3\n")

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-#include "calc/numberformat.h"
+#include "calc/amountinput.h"
 #include "calc/totals.h"
 
 namespace tamo {
@@ -142,8 +142,9 @@ std::optional<Value> fieldValueFromText(const DocumentField& field, const Record
         if (trimmed.isEmpty()) {
             return Value(0.0);
         }
-        const auto n = field.kind == FieldKind::Money ? decimalNumberFromString(trimmed)
-                                                      : percentDecimalNumberFromString(trimmed);
+        // Amounts that are finite and in range, rates from 0 to 100 %, as the editor takes them.
+        const auto n =
+            field.kind == FieldKind::Money ? amountFromText(trimmed) : rateFromText(trimmed);
         return n ? std::optional<Value>(*n) : std::nullopt;
     }
     case FieldKind::Flag:

@@ -109,6 +109,10 @@ TEST_F(DocumentCommandsTest, WhatTheEditorEditsACommandEdits)
         {{u"set"_qs, u"R1"_qs, u"due=tomorrow"_qs}, 2},
         {{u"set"_qs, u"R1"_qs, u"status=2"_qs}, 2},
         {{u"edit-line"_qs, u"R1"_qs, u"5"_qs, u"price=1"_qs}, 1},
+        // Amounts Tamo cannot calculate with, as in the editor.
+        {{u"set"_qs, u"R1"_qs, u"discountPercent=150"_qs}, 2},
+        {{u"edit-line"_qs, u"R1"_qs, u"2"_qs, u"price=nan"_qs}, 1},
+        {{u"edit-line"_qs, u"R1"_qs, u"2"_qs, u"quantity=1e9"_qs, u"price=1e6"_qs}, 1},
     };
     for (const auto& [words, code] : refused) {
         EXPECT_EQ(tamo(words).code, code) << words.join(u' ').toStdString();
