@@ -636,6 +636,34 @@
       <translation>Vorherige Datenbank zurückholen …</translation>
     </message>
     <message>
+      <source>“%1” is not a number Tamo can calculate with.</source>
+      <translation>„%1“ ist keine Zahl, mit der Tamo rechnen kann.</translation>
+    </message>
+    <message>
+      <source>%1 is too large: Tamo takes amounts of at most %2.</source>
+      <translation>%1 ist zu groß: Tamo nimmt Beträge bis höchstens %2.</translation>
+    </message>
+    <message>
+      <source>The line comes to %1, which is too large: Tamo takes amounts of at most %2.</source>
+      <translation>Der Posten ergibt %1, das ist zu groß: Tamo nimmt Beträge bis höchstens %2.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a number.</source>
+      <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a percentage.</source>
+      <translation>„%1“ ist keine Prozentangabe.</translation>
+    </message>
+    <message>
+      <source>A rate cannot be negative (“%1”).</source>
+      <translation>Ein Satz kann nicht negativ sein („%1“).</translation>
+    </message>
+    <message>
+      <source>A rate is at most 100 % (“%1”).</source>
+      <translation>Ein Satz beträgt höchstens 100 % („%1“).</translation>
+    </message>
+    <message>
       <source>No mail client could take the message.</source>
       <translation>Kein E-Mail-Programm konnte die Nachricht übernehmen.</translation>
     </message>
@@ -896,6 +924,82 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Der fällige Betrag (%1) ist nicht die Summe mit Steuer abzüglich des bereits Bezahlten (%2).</translation>
     </message>
     <message>
+      <source>The copy “%1” could not be written.</source>
+      <translation>Die Kopie „%1“ konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+      <source>It was found damaged after writing: %1</source>
+      <translation>Sie war nach dem Schreiben beschädigt: %1</translation>
+    </message>
+    <message>
+      <source>The file “%1” is not a Tamo database that Tamo can use.</source>
+      <translation>Die Datei „%1“ ist keine Tamo-Datenbank, die Tamo verwenden kann.</translation>
+    </message>
+    <message>
+      <source>It is damaged: %1</source>
+      <translation>Sie ist beschädigt: %1</translation>
+    </message>
+    <message>
+      <source>It records no Tamo layout.</source>
+      <translation>Sie verzeichnet keinen Tamo-Aufbau.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is damaged.</source>
+      <translation>Der Datenbestand „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+      <source>SQLite reports: %1 Tamo has changed nothing; a recovery copy or a backup can take its place (File › Recover Previous Database…, or tamo recover).</source>
+      <translation>SQLite meldet: %1 Tamo hat nichts verändert; eine Wiederherstellungskopie oder eine Sicherung kann an seine Stelle treten (Datei › Vorherige Datenbank zurückholen … oder tamo recover).</translation>
+    </message>
+    <message>
+      <source>The store “%1” was written by a newer version of Tamo.</source>
+      <translation>Der Datenbestand „%1“ wurde von einer neueren Version von Tamo geschrieben.</translation>
+    </message>
+    <message>
+      <source>Please update Tamo to open it.</source>
+      <translation>Bitte aktualisieren Sie Tamo, um ihn zu öffnen.</translation>
+    </message>
+    <message>
+      <source>The disk is full.</source>
+      <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+      <source>Permission denied.</source>
+      <translation>Zugriff verweigert.</translation>
+    </message>
+    <message>
+      <source>The file system is read-only.</source>
+      <translation>Das Dateisystem ist schreibgeschützt.</translation>
+    </message>
+    <message>
+      <source>The folder does not exist.</source>
+      <translation>Der Ordner existiert nicht.</translation>
+    </message>
+    <message>
+      <source>A folder stands in its place.</source>
+      <translation>An seiner Stelle steht ein Ordner.</translation>
+    </message>
+    <message>
+      <source>Part of its path is not a folder.</source>
+      <translation>Ein Teil seines Pfads ist kein Ordner.</translation>
+    </message>
+    <message>
+      <source>The disk reported an error.</source>
+      <translation>Der Datenträger hat einen Fehler gemeldet.</translation>
+    </message>
+    <message>
+      <source>The system gave no reason.</source>
+      <translation>Das System hat keinen Grund genannt.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be written.</source>
+      <translation>Die Datei „%1“ konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>Die Datei „%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>„%1“ kann nicht als Logo verwendet werden.</translation>
     </message>
@@ -984,6 +1088,10 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>%1 benötigt ein Datum wie 2026-03-01</translation>
     </message>
     <message>
+      <source>Handed “%1” to %2.</source>
+      <translation>„%1“ an %2 übergeben.</translation>
+    </message>
+    <message>
       <source>Writing %1 PDFs for Ledrix…</source>
       <translation>%1 PDFs für Ledrix werden geschrieben …</translation>
     </message>
@@ -994,6 +1102,58 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Wrote %1 and called Ledrix back.</source>
       <translation>%1 geschrieben und Ledrix zurückgerufen.</translation>
+    </message>
+    <message>
+      <source>Tamo can put a copy of your data in place of the damaged store. The damaged file is kept as a recovery copy.</source>
+      <translation>Tamo kann eine Kopie Ihrer Daten an die Stelle des beschädigten Datenbestands setzen. Die beschädigte Datei wird als Wiederherstellungskopie aufbewahrt.</translation>
+    </message>
+    <message>
+      <source>The newest recovery copy is “%1”.</source>
+      <translation>Die neueste Wiederherstellungskopie ist „%1“.</translation>
+    </message>
+    <message>
+      <source>Not Now</source>
+      <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+      <source>Recover Your Data</source>
+      <translation>Ihre Daten wiederherstellen</translation>
+    </message>
+    <message>
+      <source>It is in use by %1; this is a snapshot of it.</source>
+      <translation>Er wird von %1 verwendet; dies ist eine Momentaufnahme davon.</translation>
+    </message>
+    <message>
+      <source>another Tamo</source>
+      <translation>einem anderen Tamo</translation>
+    </message>
+    <message>
+      <source>Tamo cannot make its store in the folder “%1”.</source>
+      <translation>Tamo kann seinen Datenbestand nicht im Ordner „%1“ anlegen.</translation>
+    </message>
+    <message>
+      <source>Its folder “%1” may not be written. %2</source>
+      <translation>Sein Ordner „%1“ darf nicht beschrieben werden. %2</translation>
+    </message>
+    <message>
+      <source>The store file may only be read.</source>
+      <translation>Die Datei des Datenbestands darf nur gelesen werden.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is open for reading only.</source>
+      <translation>Der Datenbestand „%1“ ist nur zum Lesen geöffnet.</translation>
+    </message>
+    <message>
+      <source>Your change was not kept.</source>
+      <translation>Ihre Änderung wurde nicht übernommen.</translation>
+    </message>
+    <message>
+      <source>Only %1 of its %2 bytes reached the disk.</source>
+      <translation>Nur %1 seiner %2 Bytes haben den Datenträger erreicht.</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>der Datenbestand „%1“ darf nur gelesen werden: %2 „%3“ würde ihn ändern.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1384,6 +1544,25 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>The document could not be sent to the printer “%1”.</source>
       <translation>Das Dokument konnte nicht an den Drucker „%1“ gesendet werden.</translation>
+    </message>
+    <message>
+      <source>Without a recovery copy nothing was changed.</source>
+      <translation>Ohne Wiederherstellungskopie wurde nichts verändert.</translation>
+    </message>
+    <message>
+      <source>No file was written: the store could not be read completely.</source>
+      <translation>Es wurde keine Datei geschrieben: Der Datenbestand konnte nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+      <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
+      <translation>Die aufgelisteten Datensätze wurden entfernt. Die Wiederherstellungskopie „%1“ enthält sie: Datei › Vorherige Datenbank zurückholen … holt sie zurück (auf der Kommandozeile: tamo --yes recover "%1").</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n record(s) carried an identity (uniqueID) that another record already has. Each was given a new one, so that every record can be found by its own.</source>
+      <translation>
+        <numerusform>%n Datensatz trug eine Identität (uniqueID), die ein anderer Datensatz bereits hat. Er hat eine neue erhalten, damit jeder Datensatz über seine eigene gefunden wird.</numerusform>
+        <numerusform>%n Datensätze trugen eine Identität (uniqueID), die ein anderer Datensatz bereits hat. Jeder hat eine neue erhalten, damit jeder Datensatz über seine eigene gefunden wird.</numerusform>
+      </translation>
     </message>
     <message>
       <source>Database</source>
@@ -2390,6 +2569,18 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Wie gespeichert</translation>
     </message>
     <message>
+      <source>the Tamo window (process %1, started as “%2”)</source>
+      <translation>das Tamo-Fenster (Prozess %1, gestartet als „%2“)</translation>
+    </message>
+    <message>
+      <source>the command “%2” (process %1)</source>
+      <translation>den Befehl „%2“ (Prozess %1)</translation>
+    </message>
+    <message>
+      <source> on the computer %1</source>
+      <translation> auf dem Computer %1</translation>
+    </message>
+    <message>
       <source>Choose…</source>
       <translation>Auswählen …</translation>
     </message>
@@ -2576,6 +2767,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Delivery Slip</source>
       <translation>Lieferschein</translation>
+    </message>
+    <message>
+      <source>Read-only: %1</source>
+      <translation>Nur lesen: %1</translation>
+    </message>
+    <message>
+      <source>%1 (read-only)</source>
+      <translation>%1 (nur lesen)</translation>
     </message>
     <message>
       <source>Invoices: %1   Quotes: %2   Total: %3   Paid: %4   Due: %5</source>
@@ -2838,6 +3037,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Geben Sie einen Prozentsatz zwischen 0 und 100 ein, z. B. %1 oder %2.</translation>
     </message>
     <message>
+      <source>Your settings could not be saved to “%1”.</source>
+      <translation>Ihre Einstellungen konnten nicht in „%1“ gespeichert werden.</translation>
+    </message>
+    <message>
       <source>Continue…</source>
       <translation>Weiter …</translation>
     </message>
@@ -2951,6 +3154,42 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Remembered</source>
       <translation>Gespeichert</translation>
+    </message>
+    <message>
+      <source>This store is open for reading only, so nothing in it can be changed. %1</source>
+      <translation>Dieser Datenbestand ist nur zum Lesen geöffnet, daher kann darin nichts geändert werden. %1</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be opened.</source>
+      <translation>Der Datenbestand „%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+      <source>It holds no Tamo data, and it may only be read.</source>
+      <translation>Er enthält keine Tamo-Daten und darf nur gelesen werden.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be read.</source>
+      <translation>Der Datenbestand „%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+      <source>Your changes were not saved.</source>
+      <translation>Ihre Änderungen wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+      <source>The lock file “%1” could not be made.</source>
+      <translation>Die Sperrdatei „%1“ konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is in use by %2.</source>
+      <translation>Der Datenbestand „%1“ wird von %2 verwendet.</translation>
+    </message>
+    <message>
+      <source>Close that window first, or make the change there.</source>
+      <translation>Schließen Sie zuerst dieses Fenster oder nehmen Sie die Änderung dort vor.</translation>
+    </message>
+    <message>
+      <source>Try again when it has finished.</source>
+      <translation>Versuchen Sie es erneut, wenn er fertig ist.</translation>
     </message>
     <message>
       <source>Tamo first saves a complete backup of the database, then copies the database to “%1” and continues with it there. The database in “%2” is left as it is.</source>
@@ -3193,6 +3432,46 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Region und Ausgabe</translation>
     </message>
     <message>
+      <source>The file does not hold a Tamo database alone.</source>
+      <translation>Die Datei enthält nicht allein eine Tamo-Datenbank.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” has a column “%2” that Tamo does not make.</source>
+      <translation>Ihre Tabelle „%1“ hat eine Spalte „%2“, die Tamo nicht anlegt.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” is not defined as Tamo defines it.</source>
+      <translation>Ihre Tabelle „%1“ ist nicht so definiert, wie Tamo sie definiert.</translation>
+    </message>
+    <message>
+      <source>Its table “meta” is not defined as Tamo defines it.</source>
+      <translation>Ihre Tabelle „meta“ ist nicht so definiert, wie Tamo sie definiert.</translation>
+    </message>
+    <message>
+      <source>a trigger</source>
+      <translation>einen Trigger</translation>
+    </message>
+    <message>
+      <source>a view</source>
+      <translation>eine Sicht</translation>
+    </message>
+    <message>
+      <source>an index</source>
+      <translation>einen Index</translation>
+    </message>
+    <message>
+      <source>a table</source>
+      <translation>eine Tabelle</translation>
+    </message>
+    <message>
+      <source>It holds %1 “%2”, which a Tamo database never has.</source>
+      <translation>Sie enthält %1 „%2“, was eine Tamo-Datenbank nie hat.</translation>
+    </message>
+    <message>
+      <source>SQLite gave no result.</source>
+      <translation>SQLite hat kein Ergebnis geliefert.</translation>
+    </message>
+    <message>
       <source>%1 is taxed at the %2 with a rate of 0: give the tax a rate, or leave the tax off.</source>
       <translation>%1 wird nach der Kategorie „%2“ mit einem Satz von 0 besteuert: Geben Sie der Steuer einen Satz, oder lassen Sie die Steuer weg.</translation>
     </message>
@@ -3247,6 +3526,38 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>An invoice not subject to VAT may have no other subtotal in its tax breakdown.</source>
       <translation>Eine nicht umsatzsteuerbare Rechnung darf keine weitere Zwischensumme in ihrer Steueraufschlüsselung haben.</translation>
+    </message>
+    <message>
+      <source>in memory</source>
+      <translation>im Arbeitsspeicher</translation>
+    </message>
+    <message>
+      <source>It may only be read.</source>
+      <translation>Er darf nur gelesen werden.</translation>
+    </message>
+    <message>
+      <source>The file is damaged.</source>
+      <translation>Die Datei ist beschädigt.</translation>
+    </message>
+    <message>
+      <source>It is not a database.</source>
+      <translation>Sie ist keine Datenbank.</translation>
+    </message>
+    <message>
+      <source>Another program is using it.</source>
+      <translation>Ein anderes Programm verwendet sie.</translation>
+    </message>
+    <message>
+      <source>There is not enough memory.</source>
+      <translation>Es ist nicht genug Arbeitsspeicher vorhanden.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be changed.</source>
+      <translation>Der Datenbestand „%1“ konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be written.</source>
+      <translation>Der Datenbestand „%1“ konnte nicht geschrieben werden.</translation>
     </message>
   </context>
 </TS>

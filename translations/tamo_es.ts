@@ -636,6 +636,34 @@
       <translation>Recuperar base de datos anterior…</translation>
     </message>
     <message>
+      <source>“%1” is not a number Tamo can calculate with.</source>
+      <translation>«%1» no es un número con el que Tamo pueda calcular.</translation>
+    </message>
+    <message>
+      <source>%1 is too large: Tamo takes amounts of at most %2.</source>
+      <translation>%1 es demasiado grande: Tamo admite importes de como máximo %2.</translation>
+    </message>
+    <message>
+      <source>The line comes to %1, which is too large: Tamo takes amounts of at most %2.</source>
+      <translation>La línea asciende a %1, lo cual es demasiado grande: Tamo admite importes de como máximo %2.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a number.</source>
+      <translation>«%1» no es un número.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a percentage.</source>
+      <translation>«%1» no es un porcentaje.</translation>
+    </message>
+    <message>
+      <source>A rate cannot be negative (“%1”).</source>
+      <translation>Un tipo no puede ser negativo («%1»).</translation>
+    </message>
+    <message>
+      <source>A rate is at most 100 % (“%1”).</source>
+      <translation>Un tipo es como máximo del 100 % («%1»).</translation>
+    </message>
+    <message>
       <source>No mail client could take the message.</source>
       <translation>Ningún cliente de correo pudo recibir el mensaje.</translation>
     </message>
@@ -896,6 +924,82 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>El importe pendiente (%1) no es el total con impuestos menos lo pagado (%2).</translation>
     </message>
     <message>
+      <source>The copy “%1” could not be written.</source>
+      <translation>No se pudo escribir la copia «%1».</translation>
+    </message>
+    <message>
+      <source>It was found damaged after writing: %1</source>
+      <translation>Estaba dañada después de escribirla: %1</translation>
+    </message>
+    <message>
+      <source>The file “%1” is not a Tamo database that Tamo can use.</source>
+      <translation>El archivo «%1» no es una base de datos de Tamo que Tamo pueda usar.</translation>
+    </message>
+    <message>
+      <source>It is damaged: %1</source>
+      <translation>Está dañada: %1</translation>
+    </message>
+    <message>
+      <source>It records no Tamo layout.</source>
+      <translation>No registra ninguna estructura de Tamo.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is damaged.</source>
+      <translation>El almacén «%1» está dañado.</translation>
+    </message>
+    <message>
+      <source>SQLite reports: %1 Tamo has changed nothing; a recovery copy or a backup can take its place (File › Recover Previous Database…, or tamo recover).</source>
+      <translation>SQLite informa: %1 Tamo no ha cambiado nada; una copia de recuperación o una copia de seguridad puede ocupar su lugar (Archivo › Recuperar base de datos anterior… o tamo recover).</translation>
+    </message>
+    <message>
+      <source>The store “%1” was written by a newer version of Tamo.</source>
+      <translation>El almacén «%1» fue escrito por una versión más reciente de Tamo.</translation>
+    </message>
+    <message>
+      <source>Please update Tamo to open it.</source>
+      <translation>Actualice Tamo para abrirlo.</translation>
+    </message>
+    <message>
+      <source>The disk is full.</source>
+      <translation>El disco está lleno.</translation>
+    </message>
+    <message>
+      <source>Permission denied.</source>
+      <translation>Permiso denegado.</translation>
+    </message>
+    <message>
+      <source>The file system is read-only.</source>
+      <translation>El sistema de archivos es de solo lectura.</translation>
+    </message>
+    <message>
+      <source>The folder does not exist.</source>
+      <translation>La carpeta no existe.</translation>
+    </message>
+    <message>
+      <source>A folder stands in its place.</source>
+      <translation>Hay una carpeta en su lugar.</translation>
+    </message>
+    <message>
+      <source>Part of its path is not a folder.</source>
+      <translation>Parte de su ruta no es una carpeta.</translation>
+    </message>
+    <message>
+      <source>The disk reported an error.</source>
+      <translation>El disco ha informado de un error.</translation>
+    </message>
+    <message>
+      <source>The system gave no reason.</source>
+      <translation>El sistema no dio ningún motivo.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be written.</source>
+      <translation>No se pudo escribir el archivo «%1».</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>No se pudo leer el archivo «%1».</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>«%1» no se puede usar como logotipo.</translation>
     </message>
@@ -984,6 +1088,10 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>%1 necesita una fecha como 2026-03-01</translation>
     </message>
     <message>
+      <source>Handed “%1” to %2.</source>
+      <translation>«%1» entregado a %2.</translation>
+    </message>
+    <message>
       <source>Writing %1 PDFs for Ledrix…</source>
       <translation>Escribiendo %1 PDF para Ledrix…</translation>
     </message>
@@ -994,6 +1102,58 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Wrote %1 and called Ledrix back.</source>
       <translation>Se escribió %1 y se devolvió la llamada a Ledrix.</translation>
+    </message>
+    <message>
+      <source>Tamo can put a copy of your data in place of the damaged store. The damaged file is kept as a recovery copy.</source>
+      <translation>Tamo puede poner una copia de sus datos en lugar del almacén dañado. El archivo dañado se conserva como copia de recuperación.</translation>
+    </message>
+    <message>
+      <source>The newest recovery copy is “%1”.</source>
+      <translation>La copia de recuperación más reciente es «%1».</translation>
+    </message>
+    <message>
+      <source>Not Now</source>
+      <translation>Ahora no</translation>
+    </message>
+    <message>
+      <source>Recover Your Data</source>
+      <translation>Recuperar sus datos</translation>
+    </message>
+    <message>
+      <source>It is in use by %1; this is a snapshot of it.</source>
+      <translation>Lo está usando %1; esta es una instantánea.</translation>
+    </message>
+    <message>
+      <source>another Tamo</source>
+      <translation>otro Tamo</translation>
+    </message>
+    <message>
+      <source>Tamo cannot make its store in the folder “%1”.</source>
+      <translation>Tamo no puede crear su almacén en la carpeta «%1».</translation>
+    </message>
+    <message>
+      <source>Its folder “%1” may not be written. %2</source>
+      <translation>Su carpeta «%1» no se puede escribir. %2</translation>
+    </message>
+    <message>
+      <source>The store file may only be read.</source>
+      <translation>El archivo del almacén solo se puede leer.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is open for reading only.</source>
+      <translation>El almacén «%1» está abierto solo para lectura.</translation>
+    </message>
+    <message>
+      <source>Your change was not kept.</source>
+      <translation>Su cambio no se ha conservado.</translation>
+    </message>
+    <message>
+      <source>Only %1 of its %2 bytes reached the disk.</source>
+      <translation>Solo %1 de sus %2 bytes llegaron al disco.</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>el almacén «%1» solo se puede leer: %2 «%3» lo modificaría.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1384,6 +1544,25 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>The document could not be sent to the printer “%1”.</source>
       <translation>No se pudo enviar el documento a la impresora «%1».</translation>
+    </message>
+    <message>
+      <source>Without a recovery copy nothing was changed.</source>
+      <translation>Sin copia de recuperación no se ha cambiado nada.</translation>
+    </message>
+    <message>
+      <source>No file was written: the store could not be read completely.</source>
+      <translation>No se escribió ningún archivo: el almacén no se pudo leer por completo.</translation>
+    </message>
+    <message>
+      <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
+      <translation>Los registros listados se han eliminado. La copia de recuperación «%1» los contiene: Archivo › Recuperar base de datos anterior… los recupera (en la línea de órdenes: tamo --yes recover "%1").</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n record(s) carried an identity (uniqueID) that another record already has. Each was given a new one, so that every record can be found by its own.</source>
+      <translation>
+        <numerusform>%n registro llevaba una identidad (uniqueID) que ya tiene otro registro. Ha recibido una nueva, para que cada registro se encuentre por la suya.</numerusform>
+        <numerusform>%n registros llevaban una identidad (uniqueID) que ya tiene otro registro. Cada uno ha recibido una nueva, para que cada registro se encuentre por la suya.</numerusform>
+      </translation>
     </message>
     <message>
       <source>Database</source>
@@ -2390,6 +2569,18 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Según están guardadas</translation>
     </message>
     <message>
+      <source>the Tamo window (process %1, started as “%2”)</source>
+      <translation>la ventana de Tamo (proceso %1, iniciado como «%2»)</translation>
+    </message>
+    <message>
+      <source>the command “%2” (process %1)</source>
+      <translation>la orden «%2» (proceso %1)</translation>
+    </message>
+    <message>
+      <source> on the computer %1</source>
+      <translation> en el ordenador %1</translation>
+    </message>
+    <message>
       <source>Choose…</source>
       <translation>Elegir…</translation>
     </message>
@@ -2576,6 +2767,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Delivery Slip</source>
       <translation>Albarán</translation>
+    </message>
+    <message>
+      <source>Read-only: %1</source>
+      <translation>Solo lectura: %1</translation>
+    </message>
+    <message>
+      <source>%1 (read-only)</source>
+      <translation>%1 (solo lectura)</translation>
     </message>
     <message>
       <source>Invoices: %1   Quotes: %2   Total: %3   Paid: %4   Due: %5</source>
@@ -2838,6 +3037,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Escriba un porcentaje entre 0 y 100, como %1 o %2.</translation>
     </message>
     <message>
+      <source>Your settings could not be saved to “%1”.</source>
+      <translation>No se pudieron guardar sus ajustes en «%1».</translation>
+    </message>
+    <message>
       <source>Continue…</source>
       <translation>Continuar…</translation>
     </message>
@@ -2951,6 +3154,42 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Remembered</source>
       <translation>Recordados</translation>
+    </message>
+    <message>
+      <source>This store is open for reading only, so nothing in it can be changed. %1</source>
+      <translation>Este almacén está abierto solo para lectura, así que no se puede cambiar nada en él. %1</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be opened.</source>
+      <translation>No se pudo abrir el almacén «%1».</translation>
+    </message>
+    <message>
+      <source>It holds no Tamo data, and it may only be read.</source>
+      <translation>No contiene datos de Tamo y solo se puede leer.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be read.</source>
+      <translation>No se pudo leer el almacén «%1».</translation>
+    </message>
+    <message>
+      <source>Your changes were not saved.</source>
+      <translation>Sus cambios no se han guardado.</translation>
+    </message>
+    <message>
+      <source>The lock file “%1” could not be made.</source>
+      <translation>No se pudo crear el archivo de bloqueo «%1».</translation>
+    </message>
+    <message>
+      <source>The store “%1” is in use by %2.</source>
+      <translation>El almacén «%1» lo está usando %2.</translation>
+    </message>
+    <message>
+      <source>Close that window first, or make the change there.</source>
+      <translation>Cierre primero esa ventana o haga el cambio allí.</translation>
+    </message>
+    <message>
+      <source>Try again when it has finished.</source>
+      <translation>Vuelva a intentarlo cuando haya terminado.</translation>
     </message>
     <message>
       <source>Tamo first saves a complete backup of the database, then copies the database to “%1” and continues with it there. The database in “%2” is left as it is.</source>
@@ -3193,6 +3432,46 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Región y salida</translation>
     </message>
     <message>
+      <source>The file does not hold a Tamo database alone.</source>
+      <translation>El archivo no contiene solo una base de datos de Tamo.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” has a column “%2” that Tamo does not make.</source>
+      <translation>Su tabla «%1» tiene una columna «%2» que Tamo no crea.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” is not defined as Tamo defines it.</source>
+      <translation>Su tabla «%1» no está definida como la define Tamo.</translation>
+    </message>
+    <message>
+      <source>Its table “meta” is not defined as Tamo defines it.</source>
+      <translation>Su tabla «meta» no está definida como la define Tamo.</translation>
+    </message>
+    <message>
+      <source>a trigger</source>
+      <translation>un disparador</translation>
+    </message>
+    <message>
+      <source>a view</source>
+      <translation>una vista</translation>
+    </message>
+    <message>
+      <source>an index</source>
+      <translation>un índice</translation>
+    </message>
+    <message>
+      <source>a table</source>
+      <translation>una tabla</translation>
+    </message>
+    <message>
+      <source>It holds %1 “%2”, which a Tamo database never has.</source>
+      <translation>Contiene %1 «%2», algo que una base de datos de Tamo nunca tiene.</translation>
+    </message>
+    <message>
+      <source>SQLite gave no result.</source>
+      <translation>SQLite no dio ningún resultado.</translation>
+    </message>
+    <message>
       <source>%1 is taxed at the %2 with a rate of 0: give the tax a rate, or leave the tax off.</source>
       <translation>%1 tiene la categoría «%2» con un tipo 0: asigne un tipo al impuesto o quite el impuesto.</translation>
     </message>
@@ -3247,6 +3526,38 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>An invoice not subject to VAT may have no other subtotal in its tax breakdown.</source>
       <translation>Una factura no sujeta a IVA no puede tener ningún otro subtotal en su desglose de impuestos.</translation>
+    </message>
+    <message>
+      <source>in memory</source>
+      <translation>en memoria</translation>
+    </message>
+    <message>
+      <source>It may only be read.</source>
+      <translation>Solo se puede leer.</translation>
+    </message>
+    <message>
+      <source>The file is damaged.</source>
+      <translation>El archivo está dañado.</translation>
+    </message>
+    <message>
+      <source>It is not a database.</source>
+      <translation>No es una base de datos.</translation>
+    </message>
+    <message>
+      <source>Another program is using it.</source>
+      <translation>Otro programa lo está usando.</translation>
+    </message>
+    <message>
+      <source>There is not enough memory.</source>
+      <translation>No hay suficiente memoria.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be changed.</source>
+      <translation>No se pudo cambiar el almacén «%1».</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be written.</source>
+      <translation>No se pudo escribir el almacén «%1».</translation>
     </message>
   </context>
 </TS>

@@ -636,6 +636,34 @@
       <translation>Récupérer une base de données précédente…</translation>
     </message>
     <message>
+      <source>“%1” is not a number Tamo can calculate with.</source>
+      <translation>« %1 » n’est pas un nombre avec lequel Tamo peut calculer.</translation>
+    </message>
+    <message>
+      <source>%1 is too large: Tamo takes amounts of at most %2.</source>
+      <translation>%1 est trop grand : Tamo accepte des montants d’au plus %2.</translation>
+    </message>
+    <message>
+      <source>The line comes to %1, which is too large: Tamo takes amounts of at most %2.</source>
+      <translation>La ligne s’élève à %1, ce qui est trop grand : Tamo accepte des montants d’au plus %2.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a number.</source>
+      <translation>« %1 » n’est pas un nombre.</translation>
+    </message>
+    <message>
+      <source>“%1” is not a percentage.</source>
+      <translation>« %1 » n’est pas un pourcentage.</translation>
+    </message>
+    <message>
+      <source>A rate cannot be negative (“%1”).</source>
+      <translation>Un taux ne peut pas être négatif (« %1 »).</translation>
+    </message>
+    <message>
+      <source>A rate is at most 100 % (“%1”).</source>
+      <translation>Un taux est d’au plus 100 % (« %1 »).</translation>
+    </message>
+    <message>
       <source>No mail client could take the message.</source>
       <translation>Aucun client de messagerie n'a pu prendre en charge le message.</translation>
     </message>
@@ -896,6 +924,82 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Le montant dû (%1) n'est pas égal au total toutes taxes comprises moins ce qui a été payé (%2).</translation>
     </message>
     <message>
+      <source>The copy “%1” could not be written.</source>
+      <translation>La copie « %1 » n’a pas pu être écrite.</translation>
+    </message>
+    <message>
+      <source>It was found damaged after writing: %1</source>
+      <translation>Elle était endommagée après l’écriture : %1</translation>
+    </message>
+    <message>
+      <source>The file “%1” is not a Tamo database that Tamo can use.</source>
+      <translation>Le fichier « %1 » n’est pas une base de données Tamo utilisable par Tamo.</translation>
+    </message>
+    <message>
+      <source>It is damaged: %1</source>
+      <translation>Elle est endommagée : %1</translation>
+    </message>
+    <message>
+      <source>It records no Tamo layout.</source>
+      <translation>Elle n’indique aucune structure Tamo.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is damaged.</source>
+      <translation>La base « %1 » est endommagée.</translation>
+    </message>
+    <message>
+      <source>SQLite reports: %1 Tamo has changed nothing; a recovery copy or a backup can take its place (File › Recover Previous Database…, or tamo recover).</source>
+      <translation>SQLite signale : %1 Tamo n’a rien modifié ; une copie de récupération ou une sauvegarde peut la remplacer (Fichier › Récupérer une base de données précédente… ou tamo recover).</translation>
+    </message>
+    <message>
+      <source>The store “%1” was written by a newer version of Tamo.</source>
+      <translation>La base « %1 » a été écrite par une version plus récente de Tamo.</translation>
+    </message>
+    <message>
+      <source>Please update Tamo to open it.</source>
+      <translation>Veuillez mettre Tamo à jour pour l’ouvrir.</translation>
+    </message>
+    <message>
+      <source>The disk is full.</source>
+      <translation>Le disque est plein.</translation>
+    </message>
+    <message>
+      <source>Permission denied.</source>
+      <translation>Permission refusée.</translation>
+    </message>
+    <message>
+      <source>The file system is read-only.</source>
+      <translation>Le système de fichiers est en lecture seule.</translation>
+    </message>
+    <message>
+      <source>The folder does not exist.</source>
+      <translation>Le dossier n’existe pas.</translation>
+    </message>
+    <message>
+      <source>A folder stands in its place.</source>
+      <translation>Un dossier se trouve à sa place.</translation>
+    </message>
+    <message>
+      <source>Part of its path is not a folder.</source>
+      <translation>Une partie de son chemin n’est pas un dossier.</translation>
+    </message>
+    <message>
+      <source>The disk reported an error.</source>
+      <translation>Le disque a signalé une erreur.</translation>
+    </message>
+    <message>
+      <source>The system gave no reason.</source>
+      <translation>Le système n’a donné aucune raison.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be written.</source>
+      <translation>Le fichier « %1 » n’a pas pu être écrit.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>Le fichier « %1 » n’a pas pu être lu.</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>« %1 » ne peut pas être utilisé comme logo.</translation>
     </message>
@@ -984,6 +1088,10 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>%1 requiert une date telle que 2026-03-01</translation>
     </message>
     <message>
+      <source>Handed “%1” to %2.</source>
+      <translation>« %1 » transmis à %2.</translation>
+    </message>
+    <message>
       <source>Writing %1 PDFs for Ledrix…</source>
       <translation>Génération de %1 PDF pour Ledrix…</translation>
     </message>
@@ -994,6 +1102,58 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Wrote %1 and called Ledrix back.</source>
       <translation>Fichier %1 écrit et Ledrix rappelé.</translation>
+    </message>
+    <message>
+      <source>Tamo can put a copy of your data in place of the damaged store. The damaged file is kept as a recovery copy.</source>
+      <translation>Tamo peut mettre une copie de vos données à la place de la base endommagée. Le fichier endommagé est conservé comme copie de récupération.</translation>
+    </message>
+    <message>
+      <source>The newest recovery copy is “%1”.</source>
+      <translation>La copie de récupération la plus récente est « %1 ».</translation>
+    </message>
+    <message>
+      <source>Not Now</source>
+      <translation>Pas maintenant</translation>
+    </message>
+    <message>
+      <source>Recover Your Data</source>
+      <translation>Récupérer vos données</translation>
+    </message>
+    <message>
+      <source>It is in use by %1; this is a snapshot of it.</source>
+      <translation>Elle est utilisée par %1 ; ceci en est un instantané.</translation>
+    </message>
+    <message>
+      <source>another Tamo</source>
+      <translation>un autre Tamo</translation>
+    </message>
+    <message>
+      <source>Tamo cannot make its store in the folder “%1”.</source>
+      <translation>Tamo ne peut pas créer sa base dans le dossier « %1 ».</translation>
+    </message>
+    <message>
+      <source>Its folder “%1” may not be written. %2</source>
+      <translation>Son dossier « %1 » ne peut pas être modifié. %2</translation>
+    </message>
+    <message>
+      <source>The store file may only be read.</source>
+      <translation>Le fichier de la base ne peut qu’être lu.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is open for reading only.</source>
+      <translation>La base « %1 » est ouverte en lecture seule.</translation>
+    </message>
+    <message>
+      <source>Your change was not kept.</source>
+      <translation>Votre modification n’a pas été conservée.</translation>
+    </message>
+    <message>
+      <source>Only %1 of its %2 bytes reached the disk.</source>
+      <translation>Seuls %1 de ses %2 octets ont atteint le disque.</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>la base « %1 » ne peut qu’être lue : %2 « %3 » la modifierait.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1384,6 +1544,25 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>The document could not be sent to the printer “%1”.</source>
       <translation>Impossible d'envoyer le document à l'imprimante « %1 ».</translation>
+    </message>
+    <message>
+      <source>Without a recovery copy nothing was changed.</source>
+      <translation>Sans copie de récupération, rien n’a été modifié.</translation>
+    </message>
+    <message>
+      <source>No file was written: the store could not be read completely.</source>
+      <translation>Aucun fichier n’a été écrit : la base n’a pas pu être lue entièrement.</translation>
+    </message>
+    <message>
+      <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
+      <translation>Les enregistrements listés ont été supprimés. La copie de récupération « %1 » les contient : Fichier › Récupérer une base de données précédente… les rétablit (en ligne de commande : tamo --yes recover "%1").</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n record(s) carried an identity (uniqueID) that another record already has. Each was given a new one, so that every record can be found by its own.</source>
+      <translation>
+        <numerusform>%n enregistrement portait une identité (uniqueID) qu’un autre enregistrement a déjà. Il en a reçu une nouvelle, afin que chaque enregistrement soit retrouvé par la sienne.</numerusform>
+        <numerusform>%n enregistrements portaient une identité (uniqueID) qu’un autre enregistrement a déjà. Chacun en a reçu une nouvelle, afin que chaque enregistrement soit retrouvé par la sienne.</numerusform>
+      </translation>
     </message>
     <message>
       <source>Database</source>
@@ -2390,6 +2569,18 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Dans l'ordre d'enregistrement</translation>
     </message>
     <message>
+      <source>the Tamo window (process %1, started as “%2”)</source>
+      <translation>la fenêtre de Tamo (processus %1, lancé par « %2 »)</translation>
+    </message>
+    <message>
+      <source>the command “%2” (process %1)</source>
+      <translation>la commande « %2 » (processus %1)</translation>
+    </message>
+    <message>
+      <source> on the computer %1</source>
+      <translation> sur l’ordinateur %1</translation>
+    </message>
+    <message>
       <source>Choose…</source>
       <translation>Choisir…</translation>
     </message>
@@ -2576,6 +2767,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Delivery Slip</source>
       <translation>Bon de livraison</translation>
+    </message>
+    <message>
+      <source>Read-only: %1</source>
+      <translation>Lecture seule : %1</translation>
+    </message>
+    <message>
+      <source>%1 (read-only)</source>
+      <translation>%1 (lecture seule)</translation>
     </message>
     <message>
       <source>Invoices: %1   Quotes: %2   Total: %3   Paid: %4   Due: %5</source>
@@ -2838,6 +3037,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Saisissez un pourcentage entre 0 et 100, par exemple %1 ou %2.</translation>
     </message>
     <message>
+      <source>Your settings could not be saved to “%1”.</source>
+      <translation>Vos réglages n’ont pas pu être enregistrés dans « %1 ».</translation>
+    </message>
+    <message>
       <source>Continue…</source>
       <translation>Continuer…</translation>
     </message>
@@ -2951,6 +3154,42 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Remembered</source>
       <translation>Mémorisés</translation>
+    </message>
+    <message>
+      <source>This store is open for reading only, so nothing in it can be changed. %1</source>
+      <translation>Cette base est ouverte en lecture seule : rien ne peut y être modifié. %1</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be opened.</source>
+      <translation>La base « %1 » n’a pas pu être ouverte.</translation>
+    </message>
+    <message>
+      <source>It holds no Tamo data, and it may only be read.</source>
+      <translation>Elle ne contient aucune donnée Tamo et ne peut qu’être lue.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be read.</source>
+      <translation>La base « %1 » n’a pas pu être lue.</translation>
+    </message>
+    <message>
+      <source>Your changes were not saved.</source>
+      <translation>Vos modifications n’ont pas été enregistrées.</translation>
+    </message>
+    <message>
+      <source>The lock file “%1” could not be made.</source>
+      <translation>Le fichier de verrou « %1 » n’a pas pu être créé.</translation>
+    </message>
+    <message>
+      <source>The store “%1” is in use by %2.</source>
+      <translation>La base « %1 » est utilisée par %2.</translation>
+    </message>
+    <message>
+      <source>Close that window first, or make the change there.</source>
+      <translation>Fermez d’abord cette fenêtre, ou faites la modification dans celle-ci.</translation>
+    </message>
+    <message>
+      <source>Try again when it has finished.</source>
+      <translation>Réessayez quand elle aura terminé.</translation>
     </message>
     <message>
       <source>Tamo first saves a complete backup of the database, then copies the database to “%1” and continues with it there. The database in “%2” is left as it is.</source>
@@ -3193,6 +3432,46 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Région et sortie</translation>
     </message>
     <message>
+      <source>The file does not hold a Tamo database alone.</source>
+      <translation>Le fichier ne contient pas uniquement une base de données Tamo.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” has a column “%2” that Tamo does not make.</source>
+      <translation>Sa table « %1 » a une colonne « %2 » que Tamo ne crée pas.</translation>
+    </message>
+    <message>
+      <source>Its table “%1” is not defined as Tamo defines it.</source>
+      <translation>Sa table « %1 » n’est pas définie comme Tamo la définit.</translation>
+    </message>
+    <message>
+      <source>Its table “meta” is not defined as Tamo defines it.</source>
+      <translation>Sa table « meta » n’est pas définie comme Tamo la définit.</translation>
+    </message>
+    <message>
+      <source>a trigger</source>
+      <translation>un déclencheur</translation>
+    </message>
+    <message>
+      <source>a view</source>
+      <translation>une vue</translation>
+    </message>
+    <message>
+      <source>an index</source>
+      <translation>un index</translation>
+    </message>
+    <message>
+      <source>a table</source>
+      <translation>une table</translation>
+    </message>
+    <message>
+      <source>It holds %1 “%2”, which a Tamo database never has.</source>
+      <translation>Elle contient %1 « %2 », ce qu’une base de données Tamo n’a jamais.</translation>
+    </message>
+    <message>
+      <source>SQLite gave no result.</source>
+      <translation>SQLite n’a donné aucun résultat.</translation>
+    </message>
+    <message>
       <source>%1 is taxed at the %2 with a rate of 0: give the tax a rate, or leave the tax off.</source>
       <translation>%1 relève de la catégorie « %2 », mais avec un taux de 0 : indiquez un taux pour la taxe, ou retirez la taxe.</translation>
     </message>
@@ -3247,6 +3526,38 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>An invoice not subject to VAT may have no other subtotal in its tax breakdown.</source>
       <translation>Une facture non soumise à la TVA ne peut comporter aucun autre sous-total dans sa ventilation des taxes.</translation>
+    </message>
+    <message>
+      <source>in memory</source>
+      <translation>en mémoire</translation>
+    </message>
+    <message>
+      <source>It may only be read.</source>
+      <translation>Elle ne peut qu’être lue.</translation>
+    </message>
+    <message>
+      <source>The file is damaged.</source>
+      <translation>Le fichier est endommagé.</translation>
+    </message>
+    <message>
+      <source>It is not a database.</source>
+      <translation>Ce n’est pas une base de données.</translation>
+    </message>
+    <message>
+      <source>Another program is using it.</source>
+      <translation>Un autre programme l’utilise.</translation>
+    </message>
+    <message>
+      <source>There is not enough memory.</source>
+      <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be changed.</source>
+      <translation>La base « %1 » n’a pas pu être modifiée.</translation>
+    </message>
+    <message>
+      <source>The store “%1” could not be written.</source>
+      <translation>La base « %1 » n’a pas pu être écrite.</translation>
     </message>
   </context>
 </TS>
