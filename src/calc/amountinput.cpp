@@ -6,15 +6,11 @@
 #include <cstring>
 
 #include "calc/numberformat.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Amounts", text);
-}
 
 QString shown(double value)
 {

@@ -9,17 +9,13 @@
 #include <memory>
 
 #include "dispatch/printsystem.h"
+#include "platform/translations.h"
 
 Q_LOGGING_CATEGORY(lcMail, "tamo.dispatch.mail", QtInfoMsg)
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Dispatch", text);
-}
 
 Error noMailClient(const QString& reason)
 {

@@ -8,15 +8,11 @@
 #include <algorithm>
 
 #include "interchange/plistfile.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Dispatch", text);
-}
 
 // Frees what CUPS handed out for one list of destinations.
 class Destinations {

@@ -7,15 +7,11 @@
 
 #include "calc/numbering.h"
 #include "documents/lifecycle.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Clients", text);
-}
 
 // The buyer details of the e-invoice: panel fields and the attributes of the same name.
 const std::pair<const char*, QString ClientPanel::*> kBuyerFields[] = {

@@ -7,15 +7,11 @@
 #include "calc/totals.h"
 #include "documents/lifecycle.h"
 #include "model/taxkeys.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("LineItems", text);
-}
 
 // The popover's box of each tax.
 constexpr std::array<bool LineFields::*, 3> kTaxBoxes{&LineFields::tax1, &LineFields::tax2,

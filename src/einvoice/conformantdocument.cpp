@@ -9,16 +9,12 @@
 #include "calc/totals.h"
 #include "einvoice/ublparts.h"
 #include "model/record.h"
+#include "platform/translations.h"
 #include "settings/settings.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Einvoice", text);
-}
 
 constexpr ExemptionCategory kExemptions[] = {
     {"E", QT_TRANSLATE_NOOP("Einvoice", "Exempt from VAT")},

@@ -3,16 +3,12 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "platform/translations.h"
 #include "settings/settingkeys.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Einvoice", text);
-}
 
 QString settingPlace(const char* key)
 {

@@ -2,15 +2,11 @@
 #include <array>
 
 #include "einvoice/einvoiceactions.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Einvoice", text);
-}
 
 constexpr std::array kSupplierKeys{
     &key::prefsSupplierID,           &key::prefsSupplierTaxScheme,

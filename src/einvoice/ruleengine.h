@@ -6,16 +6,12 @@
 #include "einvoice/decimal.h"
 #include "einvoice/findings.h"
 #include "einvoice/ubltree.h"
+#include "platform/translations.h"
 
 // What the rule checks share: the findings being collected and the parts of the document most
 // rules look at.
 
 namespace tamo::rules {
-
-inline QString tr(const char* text)
-{
-    return QCoreApplication::translate("Einvoice", text);
-}
 
 constexpr auto kFatal = Finding::Severity::Fatal;
 constexpr auto kWarning = Finding::Severity::Warning;

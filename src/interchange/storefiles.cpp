@@ -10,6 +10,7 @@
 #include "interchange/plistfile.h"
 #include "model/sqlite.h"
 #include "model/storelayout.h"
+#include "platform/translations.h"
 
 Q_LOGGING_CATEGORY(lcInterchange, "tamo.interchange")
 
@@ -43,11 +44,6 @@ Result<void> removeIfPresent(const QString& path)
             storeError(QStringLiteral("The file “%1” could not be removed.").arg(path)));
     }
     return {};
-}
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Interchange", text);
 }
 
 int sequenceOf(const QString& fileName)

@@ -9,15 +9,11 @@
 #include "interchange/recorddictionary.h"
 #include "interchange/storefiles.h"
 #include "model/storelocation.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text, const char* disambiguation = nullptr, int n = -1)
-{
-    return QCoreApplication::translate("tamo::Interchange", text, disambiguation, n);
-}
 
 // The array of the records' dictionaries as an XML property list.
 Result<QByteArray> xmlOfRecords(const std::vector<Record*>& records)

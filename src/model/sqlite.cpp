@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "platform/filewriting.h"
+#include "platform/translations.h"
 
 // Off unless asked for (QT_LOGGING_RULES="tamo.sqlite.debug=true"): the statements that failed.
 Q_LOGGING_CATEGORY(lcSql, "tamo.sqlite", QtWarningMsg)
@@ -11,11 +12,6 @@ Q_LOGGING_CATEGORY(lcSql, "tamo.sqlite", QtWarningMsg)
 namespace tamo::sql {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Store", text);
-}
 
 QString fileOf(sqlite3* db)
 {

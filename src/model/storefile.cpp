@@ -9,17 +9,13 @@
 
 #include "model/record.h"
 #include "model/storelayout.h"
+#include "platform/translations.h"
 
 Q_LOGGING_CATEGORY(lcStore, "tamo.store")
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Store", text);
-}
 
 Error damagedStore(const QString& path, const QString& detail)
 {

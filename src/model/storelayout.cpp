@@ -1,4 +1,5 @@
 #include "model/storelayout.h"
+#include "platform/translations.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -9,11 +10,6 @@ namespace tamo::layout {
 namespace {
 
 constexpr auto kMetaTable = "CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT)";
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Store", text);
-}
 
 QString q(const std::string& identifier)
 {

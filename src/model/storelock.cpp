@@ -1,4 +1,5 @@
 #include "model/storelock.h"
+#include "platform/translations.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -19,11 +20,6 @@ Q_LOGGING_CATEGORY(lcLock, "tamo.lock")
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Store", text);
-}
 
 bool processAlive(qint64 pid)
 {

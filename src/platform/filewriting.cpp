@@ -1,4 +1,5 @@
 #include "platform/filewriting.h"
+#include "platform/translations.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,11 +15,6 @@
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::Files", text);
-}
 
 QByteArray encoded(const QString& path)
 {

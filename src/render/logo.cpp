@@ -1,4 +1,5 @@
 #include "render/logo.h"
+#include "platform/translations.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -13,11 +14,6 @@ namespace {
 
 // A logo is small; a file far beyond this is a photo or no image at all.
 constexpr qint64 kMaxLogoFile = qint64(20) << 20;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Logo", text);
-}
 
 }  // namespace
 

@@ -8,15 +8,11 @@
 
 #include "calc/numberformat.h"
 #include "model/record.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("tamo::SalesReport", text);
-}
 
 enum Status { Created = 0, Sent = 1, Due = 2, Paid = 3, PartlyPaid = 4 };
 
