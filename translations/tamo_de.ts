@@ -636,6 +636,134 @@
       <translation>Vorherige Datenbank zurückholen …</translation>
     </message>
     <message>
+      <source>the listed documents, newest first</source>
+      <translation>die angezeigten Dokumente, die neuesten zuerst</translation>
+    </message>
+    <message>
+      <source>list --changed: what differs from the starting values of the language set up</source>
+      <translation>list --changed: was von den Startwerten der eingerichteten Sprache abweicht</translation>
+    </message>
+    <message>
+      <source>the starting values of a language, as the setup assistant's first page applies them</source>
+      <translation>die Startwerte einer Sprache, wie sie die erste Seite des Einrichtungsassistenten übernimmt</translation>
+    </message>
+    <message>
+      <source>recalculates every document and prints the sums</source>
+      <translation>berechnet alle Dokumente neu und gibt die Summen aus</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoinvoices</source>
+      <translation>XML-Eigenschaftsliste, .tamoinvoices</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoitems</source>
+      <translation>XML-Eigenschaftsliste, .tamoitems</translation>
+    </message>
+    <message>
+      <source>every invoice</source>
+      <translation>alle Rechnungen</translation>
+    </message>
+    <message>
+      <source>the listed invoices</source>
+      <translation>die angezeigten Rechnungen</translation>
+    </message>
+    <message>
+      <source>the store file, .tamo2db</source>
+      <translation>die Datei des Datenbestands, .tamo2db</translation>
+    </message>
+    <message>
+      <source>keyed archive of every invoice, .invdump</source>
+      <translation>Schlüsselarchiv aller Rechnungen, .invdump</translation>
+    </message>
+    <message>
+      <source>a document file, .tamo</source>
+      <translation>eine Dokumentdatei, .tamo</translation>
+    </message>
+    <message>
+      <source>a raw store copy, .sqlite</source>
+      <translation>eine unbearbeitete Kopie des Datenbestands, .sqlite</translation>
+    </message>
+    <message>
+      <source>a complete backup (default: the documents folder), then the store moves to DIR</source>
+      <translation>eine vollständige Sicherung (vorgegeben: der Dokumente-Ordner), dann zieht der Datenbestand nach DIR um</translation>
+    </message>
+    <message>
+      <source>without COPY: lists the recovery copies; COPY is a copy's number, file name or path</source>
+      <translation>ohne COPY: listet die Wiederherstellungskopien auf; COPY ist die Nummer, der Dateiname oder der Pfad einer Kopie</translation>
+    </message>
+    <message>
+      <source>answers as when the desktop opens a file: a design is offered for import</source>
+      <translation>antwortet wie beim Öffnen einer Datei über den Desktop: ein Design wird zum Import angeboten</translation>
+    </message>
+    <message>
+      <source>a quote into an invoice</source>
+      <translation>ein Angebot in eine Rechnung</translation>
+    </message>
+    <message>
+      <source>STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)</source>
+      <translation>STATUS: 0 erstellt, 1 versendet, 3 bezahlt, 4 teilweise bezahlt (überfällig ergibt sich aus dem Fälligkeitsdatum)</translation>
+    </message>
+    <message>
+      <source>0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent</source>
+      <translation>0 alle, 1 offen, 2 überfällig, 3 bezahlt, 4 Angebote, 5-8 zuletzt</translation>
+    </message>
+    <message>
+      <source>I counts from 0</source>
+      <translation>I zählt ab 0</translation>
+    </message>
+    <message>
+      <source>the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, e-invoice buyer; dates as 2026-03-05, percentages as 10</source>
+      <translation>die Felder, die der Editor zeigt: Titel, Betreff, Datum, Fälligkeit, Texte, Kunde, Versand, Rabatt, E-Rechnungs-Käufer; Daten als 2026-03-05, Prozente als 10</translation>
+    </message>
+    <message>
+      <source>the document's lines, numbered as edit-line and delete-line take them</source>
+      <translation>die Positionen des Dokuments, nummeriert wie edit-line und delete-line sie erwarten</translation>
+    </message>
+    <message>
+      <source>KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)</source>
+      <translation>KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes oder no)</translation>
+    </message>
+    <message>
+      <source>XRechnung XML of document N, after the readiness check; --conformant writes the file the EN 16931 rules require (default: setting prefsEvoiceConformantBool)</source>
+      <translation>XRechnung-XML von Dokument N nach der Bereitschaftsprüfung; --conformant schreibt die Datei, die die Regeln der EN 16931 verlangen (vorgegeben: Einstellung prefsEvoiceConformantBool)</translation>
+    </message>
+    <message>
+      <source>readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing fatal remains</source>
+      <translation>Bereitschaft, dann die Regeln von EN 16931 und XRechnung; Exit-Code 0 nur, wenn nichts Schwerwiegendes bleibt</translation>
+    </message>
+    <message>
+      <source>every listed document, DIR/NUMBER_N.pdf</source>
+      <translation>alle angezeigten Dokumente, DIR/NUMBER_N.pdf</translation>
+    </message>
+    <message>
+      <source>the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00</source>
+      <translation>der Umsatzbericht der angezeigten Rechnungen; DATE ist 2026-03-01 oder 2026-03-01T12:00</translation>
+    </message>
+    <message>
+      <source>every listed document, oldest first, as PDF</source>
+      <translation>alle angezeigten Dokumente, die ältesten zuerst, als PDF</translation>
+    </message>
+    <message>
+      <source>prints document N on the default printer or NAME; marks an invoice as sent when markInvoiceAsSent is on</source>
+      <translation>druckt Dokument N auf dem Standarddrucker oder auf NAME; markiert eine Rechnung als versendet, wenn markInvoiceAsSent eingeschaltet ist</translation>
+    </message>
+    <message>
+      <source>document N as PDF file; marks an invoice as sent as print does</source>
+      <translation>Dokument N als PDF-Datei; markiert eine Rechnung wie print als versendet</translation>
+    </message>
+    <message>
+      <source>a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after its checks; marks an invoice as sent as print does</source>
+      <translation>eine neue Nachricht im E-Mail-Programm (xdg-email) mit dem PDF oder, nach ihren Prüfungen, mit der E-Rechnung; markiert eine Rechnung wie print als versendet</translation>
+    </message>
+    <message>
+      <source>document file that import-document reads (.tamo), or its XML property list</source>
+      <translation>Dokumentdatei, die import-document liest (.tamo), oder ihre XML-Eigenschaftsliste</translation>
+    </message>
+    <message>
+      <source>the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or .kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items keeps each invoice's lines instead of one summary; prints the file's path</source>
+      <translation>die Rechnungen des Zeitraums (vorgegeben: alle angezeigten) als kelvaneExport.ldxtamo oder .kelvtamo, an den Desktop übergeben; kind 0 alle versendeten Rechnungen, 1 bezahlte, 2 überfällige; --items behält die Positionen jeder Rechnung statt einer Zusammenfassung; gibt den Pfad der Datei aus</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>„%1“ ist keine Zahl, mit der Tamo rechnen kann.</translation>
     </message>
@@ -662,6 +790,463 @@
     <message>
       <source>A rate is at most 100 % (“%1”).</source>
       <translation>Ein Satz beträgt höchstens 100 % („%1“).</translation>
+    </message>
+    <message>
+      <source>Invoices: %1 (%2 sent)</source>
+      <translation>Rechnungen: %1 (%2 versendet)</translation>
+    </message>
+    <message>
+      <source>Quotes: %1</source>
+      <translation>Angebote: %1</translation>
+    </message>
+    <message>
+      <source>Total: %1</source>
+      <translation>Gesamt: %1</translation>
+    </message>
+    <message>
+      <source>Paid: %1</source>
+      <translation>Bezahlt: %1</translation>
+    </message>
+    <message>
+      <source>Due: %1</source>
+      <translation>Offen: %1</translation>
+    </message>
+    <message>
+      <source>Status</source>
+      <translation>Status</translation>
+    </message>
+    <message>
+      <source>Number</source>
+      <translation>Nummer</translation>
+    </message>
+    <message>
+      <source>Date</source>
+      <translation>Datum</translation>
+    </message>
+    <message>
+      <source>Due</source>
+      <translation>Fällig</translation>
+    </message>
+    <message>
+      <source>Amount</source>
+      <translation>Betrag</translation>
+    </message>
+    <message>
+      <source>%1 needs a whole number</source>
+      <translation>%1 braucht eine ganze Zahl</translation>
+    </message>
+    <message>
+      <source>Generated %1 documents with %2 lines and %3 clients.</source>
+      <translation>%1 Dokumente mit %2 Positionen und %3 Kunden erzeugt.</translation>
+    </message>
+    <message>
+      <source>--store needs a folder</source>
+      <translation>--store braucht einen Ordner</translation>
+    </message>
+    <message>
+      <source>usage: tamo %1</source>
+      <translation>Aufruf: tamo %1</translation>
+    </message>
+    <message>
+      <source>  Without a command, opens the window (or brings the one open on the store forward).
+  Options may stand anywhere; "--" ends them.
+  tamo [--store DIR] tamo://…  hands a request to the window, or answers it without one
+  tamo [--store DIR] FILE      asks the window to open FILE, as the desktop does
+  --store DIR   keep store, settings and data files in DIR
+  --yes         answer questions with their default button
+  COMMAND --help, or tamo help COMMAND, tells more of one command.
+commands:
+</source>
+      <translation>  Ohne Befehl öffnet Tamo das Fenster (oder holt das auf dem Datenbestand geöffnete nach vorn).
+  Optionen dürfen überall stehen; „--“ beendet sie.
+  tamo [--store DIR] tamo://…  übergibt eine Anfrage an das Fenster oder beantwortet sie ohne Fenster
+  tamo [--store DIR] FILE      bittet das Fenster, FILE zu öffnen, wie es der Desktop tut
+  --store DIR   Datenbestand, Einstellungen und Datendateien in DIR ablegen
+  --yes         Fragen mit ihrer Standardschaltfläche beantworten
+  COMMAND --help oder tamo help COMMAND erklärt einen Befehl genauer.
+Befehle:
+</translation>
+    </message>
+    <message>
+      <source>unknown command "%1"</source>
+      <translation>unbekannter Befehl „%1“</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>der Datenbestand „%1“ darf nur gelesen werden: %2 „%3“ würde ihn ändern.</translation>
+    </message>
+    <message>
+      <source>nothing was exported</source>
+      <translation>es wurde nichts exportiert</translation>
+    </message>
+    <message>
+      <source>%1: nothing was written</source>
+      <translation>%1: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+      <source>the export failed</source>
+      <translation>der Export ist fehlgeschlagen</translation>
+    </message>
+    <message>
+      <source>Printed %1</source>
+      <translation>%1 gedruckt</translation>
+    </message>
+    <message>
+      <source>Wrote %1</source>
+      <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+      <source>Handed %1 to the mail client</source>
+      <translation>%1 an das E-Mail-Programm übergeben</translation>
+    </message>
+    <message>
+      <source>the e-invoice was not mailed</source>
+      <translation>die E-Rechnung wurde nicht verschickt</translation>
+    </message>
+    <message>
+      <source>quote</source>
+      <translation>Angebot</translation>
+    </message>
+    <message>
+      <source>invoice</source>
+      <translation>Rechnung</translation>
+    </message>
+    <message>
+      <source>Created %1</source>
+      <translation>%1 erstellt</translation>
+    </message>
+    <message>
+      <source>Created %1 as a copy of %2</source>
+      <translation>%1 als Kopie von %2 erstellt</translation>
+    </message>
+    <message>
+      <source>%1 was not converted</source>
+      <translation>%1 wurde nicht umgewandelt</translation>
+    </message>
+    <message>
+      <source>Converted into %1</source>
+      <translation>Umgewandelt in %1</translation>
+    </message>
+    <message>
+      <source>Adjust Counter</source>
+      <translation>Zähler anpassen</translation>
+    </message>
+    <message>
+      <source>%1 was not deleted</source>
+      <translation>%1 wurde nicht gelöscht</translation>
+    </message>
+    <message>
+      <source>Deleted %1</source>
+      <translation>%1 gelöscht</translation>
+    </message>
+    <message>
+      <source>the status is 0, 1, 3 or 4 (overdue follows from the due date), not %1</source>
+      <translation>der Status ist 0, 1, 3 oder 4 (überfällig ergibt sich aus dem Fälligkeitsdatum), nicht %1</translation>
+    </message>
+    <message>
+      <source>%1 needs a number such as 120.50</source>
+      <translation>%1 braucht eine Zahl wie 120.50</translation>
+    </message>
+    <message>
+      <source>Set Status</source>
+      <translation>Status setzen</translation>
+    </message>
+    <message>
+      <source>%1: status %2</source>
+      <translation>%1: Status %2</translation>
+    </message>
+    <message>
+      <source>%1: delivered %2</source>
+      <translation>%1: geliefert am %2</translation>
+    </message>
+    <message>
+      <source>TAG is a number from 0 to 8</source>
+      <translation>TAG ist eine Zahl von 0 bis 8</translation>
+    </message>
+    <message>
+      <source>there is no document %1</source>
+      <translation>es gibt kein Dokument %1</translation>
+    </message>
+    <message>
+      <source>%1 documents are numbered %2; name one by its uniqueID</source>
+      <translation>%1 Dokumente tragen die Nummer %2; nennen Sie eines über seine uniqueID</translation>
+    </message>
+    <message>
+      <source>text</source>
+      <translation>ein Text</translation>
+    </message>
+    <message>
+      <source>date such as 2026-03-05</source>
+      <translation>ein Datum wie 2026-03-05</translation>
+    </message>
+    <message>
+      <source>amount such as 1234.50</source>
+      <translation>ein Betrag wie 1234.50</translation>
+    </message>
+    <message>
+      <source>percentage such as 10</source>
+      <translation>ein Prozentsatz wie 10</translation>
+    </message>
+    <message>
+      <source>yes or no</source>
+      <translation>yes oder no</translation>
+    </message>
+    <message>
+      <source>choice</source>
+      <translation>eine Auswahl</translation>
+    </message>
+    <message>
+      <source>%1: %2 is marked as already sent; set its status back to 0 (created) first</source>
+      <translation>%1: %2 ist als bereits versendet markiert; setzen Sie den Status zuerst auf 0 (erstellt) zurück</translation>
+    </message>
+    <message>
+      <source>there is no field %1; the fields are %2</source>
+      <translation>es gibt kein Feld %1; die Felder sind %2</translation>
+    </message>
+    <message>
+      <source>%1 is not a %2 for %3</source>
+      <translation>%1 ist für %3 nicht gültig, erwartet wird %2</translation>
+    </message>
+    <message>
+      <source>%1: nothing changed</source>
+      <translation>%1: nichts geändert</translation>
+    </message>
+    <message>
+      <source>%1: changed %2; its total is now %3</source>
+      <translation>%1: %2 geändert; die Summe beträgt jetzt %3</translation>
+    </message>
+    <message>
+      <source>%1 has %2 lines; LINE counts them from 1 as `tamo lines` lists them</source>
+      <translation>%1 hat %2 Positionen; LINE zählt sie ab 1, wie `tamo lines` sie auflistet</translation>
+    </message>
+    <message>
+      <source>%1 is yes or no</source>
+      <translation>%1 ist yes oder no</translation>
+    </message>
+    <message>
+      <source>there is no line field %1; the fields are title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</source>
+      <translation>es gibt kein Positionsfeld %1; die Felder sind title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</translation>
+    </message>
+    <message>
+      <source>Changed "%1" of %2; its total is now %3</source>
+      <translation>„%1“ von %2 geändert; die Summe beträgt jetzt %3</translation>
+    </message>
+    <message>
+      <source>delete-line: "%1" was not deleted (questions are answered only with --yes)</source>
+      <translation>delete-line: „%1“ wurde nicht gelöscht (Fragen werden nur mit --yes beantwortet)</translation>
+    </message>
+    <message>
+      <source>Deleted "%1" from %2; its total is now %3</source>
+      <translation>„%1“ aus %2 gelöscht; die Summe beträgt jetzt %3</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; set its status back to Created to change or export it again</source>
+      <translation>%1 ist als bereits versendet markiert; setzen Sie den Status auf „Erstellt“ zurück, um es zu ändern oder erneut zu exportieren</translation>
+    </message>
+    <message>
+      <source>possible</source>
+      <translation>möglich</translation>
+    </message>
+    <message>
+      <source>not possible: %1</source>
+      <translation>nicht möglich: %1</translation>
+    </message>
+    <message>
+      <source>fatal</source>
+      <translation>schwerwiegend</translation>
+    </message>
+    <message>
+      <source>warning</source>
+      <translation>Warnung</translation>
+    </message>
+    <message>
+      <source>passes the EN 16931 and XRechnung rules</source>
+      <translation>erfüllt die Regeln von EN 16931 und XRechnung</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n fatal finding(s): the recipient's validator will likely reject the file</source>
+      <translation>
+        <numerusform>%n schwerwiegender Befund: Die Prüfsoftware des Empfängers wird die Datei wahrscheinlich ablehnen</numerusform>
+        <numerusform>%n schwerwiegende Befunde: Die Prüfsoftware des Empfängers wird die Datei wahrscheinlich ablehnen</numerusform>
+      </translation>
+    </message>
+    <message>
+      <source>Skipped the e-invoice readiness check (--force); the file may lack required values.</source>
+      <translation>Bereitschaftsprüfung der E-Rechnung übersprungen (--force); der Datei können Pflichtangaben fehlen.</translation>
+    </message>
+    <message>
+      <source>no e-invoice for %1: %2 (see einvoice-details, settings)</source>
+      <translation>keine E-Rechnung für %1: %2 (siehe einvoice-details, settings)</translation>
+    </message>
+    <message>
+      <source>no conformant e-invoice for %1: %2</source>
+      <translation>keine konforme E-Rechnung für %1: %2</translation>
+    </message>
+    <message>
+      <source>Warning: this e-invoice will likely be rejected: it breaks rules the recipient's validator checks (see einvoice-check %1).</source>
+      <translation>Warnung: Diese E-Rechnung wird wahrscheinlich abgelehnt: Sie verletzt Regeln, die die Prüfsoftware des Empfängers prüft (siehe einvoice-check %1).</translation>
+    </message>
+    <message>
+      <source>%1 cannot become an e-invoice yet</source>
+      <translation>%1 kann noch keine E-Rechnung werden</translation>
+    </message>
+    <message>
+      <source>%1 breaks rules of EN 16931 or XRechnung</source>
+      <translation>%1 verletzt Regeln von EN 16931 oder XRechnung</translation>
+    </message>
+    <message>
+      <source>KEY is one of %1</source>
+      <translation>KEY ist eines von %1</translation>
+    </message>
+    <message>
+      <source>%1: nothing was changed (questions are answered only with --yes)</source>
+      <translation>%1: es wurde nichts geändert (Fragen werden nur mit --yes beantwortet)</translation>
+    </message>
+    <message>
+      <source>No safety copy was written at this start.</source>
+      <translation>Bei diesem Start wurde keine Sicherheitskopie angelegt.</translation>
+    </message>
+    <message>
+      <source>Backed up the database to %1.
+Moved the store to %2; Tamo opens it there from now on.</source>
+      <translation>Datenbank in %1 gesichert.
+Datenbestand nach %2 verschoben; Tamo öffnet ihn ab jetzt dort.</translation>
+    </message>
+    <message>
+      <source>The store is already in %1.</source>
+      <translation>Der Datenbestand liegt bereits in %1.</translation>
+    </message>
+    <message>
+      <source>move-store: the store stays in %1</source>
+      <translation>move-store: der Datenbestand bleibt in %1</translation>
+    </message>
+    <message>
+      <source>--price and --quantity need numbers such as 12.50</source>
+      <translation>--price und --quantity brauchen Zahlen wie 12.50</translation>
+    </message>
+    <message>
+      <source>add-item: %1 was left as it is</source>
+      <translation>add-item: %1 bleibt unverändert</translation>
+    </message>
+    <message>
+      <source>Added "%1" (%2 x %3) to %4; its total is now %5</source>
+      <translation>„%1“ (%2 x %3) zu %4 hinzugefügt; die Summe beträgt jetzt %5</translation>
+    </message>
+    <message>
+      <source>set-client: %1 was left as it is</source>
+      <translation>set-client: %1 bleibt unverändert</translation>
+    </message>
+    <message>
+      <source>there is no remembered client %1</source>
+      <translation>es gibt keinen gespeicherten Kunden %1</translation>
+    </message>
+    <message>
+      <source>cannot read %1</source>
+      <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+      <source>%1 has %2 contacts; --index counts them from 0</source>
+      <translation>%1 enthält %2 Kontakte; --index zählt sie ab 0</translation>
+    </message>
+    <message>
+      <source>The client of %1 is now %2</source>
+      <translation>Der Kunde von %1 ist jetzt %2</translation>
+    </message>
+    <message>
+      <source>there is no design %1 (see designs list)</source>
+      <translation>es gibt kein Design %1 (siehe designs list)</translation>
+    </message>
+    <message>
+      <source>cannot create the folder %1</source>
+      <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+      <source>not written: %1: %2</source>
+      <translation>nicht geschrieben: %1: %2</translation>
+    </message>
+    <message>
+      <source>%1 of %2 documents were not written</source>
+      <translation>%1 von %2 Dokumenten wurden nicht geschrieben</translation>
+    </message>
+    <message>
+      <source>(default)</source>
+      <translation>(Standard)</translation>
+    </message>
+    <message>
+      <source>nothing deleted (answer with --yes)</source>
+      <translation>nichts gelöscht (mit --yes antworten)</translation>
+    </message>
+    <message>
+      <source>%1 %2 (%3 lines) %4</source>
+      <translation>%1 %2 (%3 Positionen) %4</translation>
+    </message>
+    <message>
+      <source>there is no template %1 (see templates list)</source>
+      <translation>es gibt keine Vorlage %1 (siehe templates list)</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; the template was not applied</source>
+      <translation>%1 ist als bereits versendet markiert; die Vorlage wurde nicht angewendet</translation>
+    </message>
+    <message>
+      <source>%1 needs a date such as 2026-03-01</source>
+      <translation>%1 benötigt ein Datum wie 2026-03-01</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (1 page)</source>
+      <translation>%1 geschrieben (1 Seite)</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (%2 pages)</source>
+      <translation>%1 geschrieben (%2 Seiten)</translation>
+    </message>
+    <message>
+      <source>The number of sample documents cannot be negative.</source>
+      <translation>Die Zahl der Beispieldokumente kann nicht negativ sein.</translation>
+    </message>
+    <message>
+      <source>The number of lines per document cannot be negative.</source>
+      <translation>Die Zahl der Positionen je Dokument kann nicht negativ sein.</translation>
+    </message>
+    <message>
+      <source>The number of sample clients cannot be negative.</source>
+      <translation>Die Zahl der Beispielkunden kann nicht negativ sein.</translation>
+    </message>
+    <message>
+      <source>The sample cannot be dated: the clock gives no time.</source>
+      <translation>Das Beispiel kann nicht datiert werden: Die Uhr liefert keine Zeit.</translation>
+    </message>
+    <message>
+      <source>--file gives the image of prefsLogo</source>
+      <translation>--file gibt das Bild von prefsLogo an</translation>
+    </message>
+    <message>
+      <source>prefsLogo holds an image: set it with --file IMAGE, or remove it with an empty value</source>
+      <translation>prefsLogo enthält ein Bild: Setzen Sie es mit --file IMAGE oder entfernen Sie es mit einem leeren Wert</translation>
+    </message>
+    <message>
+      <source>%1 is not a valid value for %2</source>
+      <translation>%1 ist kein gültiger Wert für %2</translation>
+    </message>
+    <message>
+      <source>there is no setting named %1</source>
+      <translation>es gibt keine Einstellung namens %1</translation>
+    </message>
+    <message>
+      <source>there are no starting values for "%1"</source>
+      <translation>es gibt keine Startwerte für „%1“</translation>
+    </message>
+    <message>
+      <source>setup: nothing was changed (questions are answered only with --yes)</source>
+      <translation>setup: es wurde nichts geändert (Fragen werden nur mit --yes beantwortet)</translation>
+    </message>
+    <message>
+      <source>setup: no starting values were applied</source>
+      <translation>setup: es wurden keine Startwerte übernommen</translation>
+    </message>
+    <message>
+      <source>Applied %1 starting values (%2).</source>
+      <translation>%1 Startwerte übernommen (%2).</translation>
     </message>
     <message>
       <source>No mail client could take the message.</source>
@@ -1036,10 +1621,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Gesamt</translation>
     </message>
     <message>
-      <source>Due</source>
-      <translation>Fällig</translation>
-    </message>
-    <message>
       <source>TOTAL</source>
       <translation>GESAMT</translation>
     </message>
@@ -1082,10 +1663,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>--kind is 0 (every sent invoice), 1 (paid) or 2 (overdue)</source>
       <translation>--kind ist 0 (jede versendete Rechnung), 1 (bezahlte) oder 2 (überfällige)</translation>
-    </message>
-    <message>
-      <source>%1 needs a date such as 2026-03-01</source>
-      <translation>%1 benötigt ein Datum wie 2026-03-01</translation>
     </message>
     <message>
       <source>Handed “%1” to %2.</source>
@@ -1150,10 +1727,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
       <translation>Nur %1 seiner %2 Bytes haben den Datenträger erreicht.</translation>
-    </message>
-    <message>
-      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
-      <translation>der Datenbestand „%1“ darf nur gelesen werden: %2 „%3“ würde ihn ändern.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1460,6 +2033,18 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
         <numerusform>%n Karte kann nicht gelesen werden.</numerusform>
         <numerusform>%n Karten können nicht gelesen werden.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>unknown option %1</source>
+      <translation>unbekannte Option %1</translation>
+    </message>
+    <message>
+      <source>%1 takes no value</source>
+      <translation>%1 nimmt keinen Wert an</translation>
+    </message>
+    <message>
+      <source>%1 needs a value</source>
+      <translation>%1 braucht einen Wert</translation>
     </message>
     <message>
       <source>Your name or your business's name</source>
@@ -1964,18 +2549,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Fälligkeitsdatum:</translation>
     </message>
     <message>
-      <source>Number</source>
-      <translation>Nummer</translation>
-    </message>
-    <message>
-      <source>Date</source>
-      <translation>Datum</translation>
-    </message>
-    <message>
-      <source>Amount</source>
-      <translation>Betrag</translation>
-    </message>
-    <message>
       <source>New Template</source>
       <translation>Neue Vorlage</translation>
     </message>
@@ -2010,14 +2583,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Double-click a finding to go to what to change.</source>
       <translation>Doppelklicken Sie auf einen Befund, um zur Stelle zu gelangen, die Sie ändern müssen.</translation>
-    </message>
-    <message>
-      <source>fatal</source>
-      <translation>schwerwiegend</translation>
-    </message>
-    <message>
-      <source>warning</source>
-      <translation>Warnung</translation>
     </message>
     <message>
       <source>Change: %1</source>
@@ -3027,6 +3592,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Print Sales Report</source>
       <translation>Umsatzbericht drucken</translation>
+    </message>
+    <message>
+      <source>%1 is marked as sent</source>
+      <translation>%1 ist als versendet markiert</translation>
     </message>
     <message>
       <source>Type a whole number, such as 0 or 12.</source>

@@ -636,6 +636,134 @@
       <translation>Recuperar base de datos anterior…</translation>
     </message>
     <message>
+      <source>the listed documents, newest first</source>
+      <translation>los documentos mostrados, los más recientes primero</translation>
+    </message>
+    <message>
+      <source>list --changed: what differs from the starting values of the language set up</source>
+      <translation>list --changed: lo que difiere de los valores iniciales del idioma configurado</translation>
+    </message>
+    <message>
+      <source>the starting values of a language, as the setup assistant's first page applies them</source>
+      <translation>los valores iniciales de un idioma, tal como los aplica la primera página del asistente de configuración</translation>
+    </message>
+    <message>
+      <source>recalculates every document and prints the sums</source>
+      <translation>recalcula todos los documentos y muestra las sumas</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoinvoices</source>
+      <translation>lista de propiedades XML, .tamoinvoices</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoitems</source>
+      <translation>lista de propiedades XML, .tamoitems</translation>
+    </message>
+    <message>
+      <source>every invoice</source>
+      <translation>todas las facturas</translation>
+    </message>
+    <message>
+      <source>the listed invoices</source>
+      <translation>las facturas mostradas</translation>
+    </message>
+    <message>
+      <source>the store file, .tamo2db</source>
+      <translation>el archivo del almacén, .tamo2db</translation>
+    </message>
+    <message>
+      <source>keyed archive of every invoice, .invdump</source>
+      <translation>archivo con claves de todas las facturas, .invdump</translation>
+    </message>
+    <message>
+      <source>a document file, .tamo</source>
+      <translation>un archivo de documento, .tamo</translation>
+    </message>
+    <message>
+      <source>a raw store copy, .sqlite</source>
+      <translation>una copia sin procesar del almacén, .sqlite</translation>
+    </message>
+    <message>
+      <source>a complete backup (default: the documents folder), then the store moves to DIR</source>
+      <translation>una copia de seguridad completa (por omisión: la carpeta Documentos) y luego el almacén pasa a DIR</translation>
+    </message>
+    <message>
+      <source>without COPY: lists the recovery copies; COPY is a copy's number, file name or path</source>
+      <translation>sin COPY: enumera las copias de recuperación; COPY es el número, el nombre de archivo o la ruta de una copia</translation>
+    </message>
+    <message>
+      <source>answers as when the desktop opens a file: a design is offered for import</source>
+      <translation>responde como cuando el escritorio abre un archivo: se ofrece importar un diseño</translation>
+    </message>
+    <message>
+      <source>a quote into an invoice</source>
+      <translation>un presupuesto en factura</translation>
+    </message>
+    <message>
+      <source>STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)</source>
+      <translation>STATUS: 0 creada, 1 enviada, 3 pagada, 4 pagada parcialmente (vencida resulta de la fecha de vencimiento)</translation>
+    </message>
+    <message>
+      <source>0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent</source>
+      <translation>0 todos, 1 abiertos, 2 vencidos, 3 pagados, 4 presupuestos, 5-8 recientes</translation>
+    </message>
+    <message>
+      <source>I counts from 0</source>
+      <translation>I cuenta desde 0</translation>
+    </message>
+    <message>
+      <source>the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, e-invoice buyer; dates as 2026-03-05, percentages as 10</source>
+      <translation>los campos que muestra el editor: título, asunto, fecha, vencimiento, textos, cliente, envío, descuento, comprador de la factura electrónica; fechas como 2026-03-05, porcentajes como 10</translation>
+    </message>
+    <message>
+      <source>the document's lines, numbered as edit-line and delete-line take them</source>
+      <translation>las líneas del documento, numeradas como las esperan edit-line y delete-line</translation>
+    </message>
+    <message>
+      <source>KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)</source>
+      <translation>KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes o no)</translation>
+    </message>
+    <message>
+      <source>XRechnung XML of document N, after the readiness check; --conformant writes the file the EN 16931 rules require (default: setting prefsEvoiceConformantBool)</source>
+      <translation>XML XRechnung del documento N, tras la comprobación previa; --conformant escribe el archivo que exigen las normas EN 16931 (por omisión: ajuste prefsEvoiceConformantBool)</translation>
+    </message>
+    <message>
+      <source>readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing fatal remains</source>
+      <translation>comprobación previa y luego las normas EN 16931 y XRechnung; código de salida 0 solo si no queda nada grave</translation>
+    </message>
+    <message>
+      <source>every listed document, DIR/NUMBER_N.pdf</source>
+      <translation>todos los documentos mostrados, DIR/NUMBER_N.pdf</translation>
+    </message>
+    <message>
+      <source>the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00</source>
+      <translation>el informe de ventas de las facturas mostradas; DATE es 2026-03-01 o 2026-03-01T12:00</translation>
+    </message>
+    <message>
+      <source>every listed document, oldest first, as PDF</source>
+      <translation>todos los documentos mostrados, los más antiguos primero, en PDF</translation>
+    </message>
+    <message>
+      <source>prints document N on the default printer or NAME; marks an invoice as sent when markInvoiceAsSent is on</source>
+      <translation>imprime el documento N en la impresora predeterminada o en NAME; marca una factura como enviada si markInvoiceAsSent está activado</translation>
+    </message>
+    <message>
+      <source>document N as PDF file; marks an invoice as sent as print does</source>
+      <translation>el documento N como archivo PDF; marca una factura como enviada igual que print</translation>
+    </message>
+    <message>
+      <source>a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after its checks; marks an invoice as sent as print does</source>
+      <translation>un mensaje nuevo en el cliente de correo (xdg-email) con el PDF o, tras sus comprobaciones, con la factura electrónica; marca una factura como enviada igual que print</translation>
+    </message>
+    <message>
+      <source>document file that import-document reads (.tamo), or its XML property list</source>
+      <translation>archivo de documento que lee import-document (.tamo), o su lista de propiedades XML</translation>
+    </message>
+    <message>
+      <source>the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or .kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items keeps each invoice's lines instead of one summary; prints the file's path</source>
+      <translation>las facturas del periodo (por omisión: todas las mostradas) como kelvaneExport.ldxtamo o .kelvtamo, entregadas al escritorio; kind 0 todas las facturas enviadas, 1 pagadas, 2 vencidas; --items conserva las líneas de cada factura en lugar de un resumen; muestra la ruta del archivo</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>«%1» no es un número con el que Tamo pueda calcular.</translation>
     </message>
@@ -662,6 +790,463 @@
     <message>
       <source>A rate is at most 100 % (“%1”).</source>
       <translation>Un tipo es como máximo del 100 % («%1»).</translation>
+    </message>
+    <message>
+      <source>Invoices: %1 (%2 sent)</source>
+      <translation>Facturas: %1 (%2 enviadas)</translation>
+    </message>
+    <message>
+      <source>Quotes: %1</source>
+      <translation>Presupuestos: %1</translation>
+    </message>
+    <message>
+      <source>Total: %1</source>
+      <translation>Total: %1</translation>
+    </message>
+    <message>
+      <source>Paid: %1</source>
+      <translation>Pagado: %1</translation>
+    </message>
+    <message>
+      <source>Due: %1</source>
+      <translation>Pendiente: %1</translation>
+    </message>
+    <message>
+      <source>Status</source>
+      <translation>Estado</translation>
+    </message>
+    <message>
+      <source>Number</source>
+      <translation>Número</translation>
+    </message>
+    <message>
+      <source>Date</source>
+      <translation>Fecha</translation>
+    </message>
+    <message>
+      <source>Due</source>
+      <translation>Pendiente</translation>
+    </message>
+    <message>
+      <source>Amount</source>
+      <translation>Importe</translation>
+    </message>
+    <message>
+      <source>%1 needs a whole number</source>
+      <translation>%1 necesita un número entero</translation>
+    </message>
+    <message>
+      <source>Generated %1 documents with %2 lines and %3 clients.</source>
+      <translation>Se generaron %1 documentos con %2 líneas y %3 clientes.</translation>
+    </message>
+    <message>
+      <source>--store needs a folder</source>
+      <translation>--store necesita una carpeta</translation>
+    </message>
+    <message>
+      <source>usage: tamo %1</source>
+      <translation>uso: tamo %1</translation>
+    </message>
+    <message>
+      <source>  Without a command, opens the window (or brings the one open on the store forward).
+  Options may stand anywhere; "--" ends them.
+  tamo [--store DIR] tamo://…  hands a request to the window, or answers it without one
+  tamo [--store DIR] FILE      asks the window to open FILE, as the desktop does
+  --store DIR   keep store, settings and data files in DIR
+  --yes         answer questions with their default button
+  COMMAND --help, or tamo help COMMAND, tells more of one command.
+commands:
+</source>
+      <translation>  Sin orden, abre la ventana (o trae al frente la que está abierta sobre el almacén).
+  Las opciones pueden ir en cualquier lugar; «--» las termina.
+  tamo [--store DIR] tamo://…  entrega una petición a la ventana, o la responde sin ella
+  tamo [--store DIR] FILE      pide a la ventana que abra FILE, como hace el escritorio
+  --store DIR   guardar el almacén, los ajustes y los archivos de datos en DIR
+  --yes         responder a las preguntas con su botón predeterminado
+  COMMAND --help, o tamo help COMMAND, explica más de una orden.
+órdenes:
+</translation>
+    </message>
+    <message>
+      <source>unknown command "%1"</source>
+      <translation>orden desconocida «%1»</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>el almacén «%1» solo se puede leer: %2 «%3» lo modificaría.</translation>
+    </message>
+    <message>
+      <source>nothing was exported</source>
+      <translation>no se exportó nada</translation>
+    </message>
+    <message>
+      <source>%1: nothing was written</source>
+      <translation>%1: no se escribió nada</translation>
+    </message>
+    <message>
+      <source>the export failed</source>
+      <translation>la exportación ha fallado</translation>
+    </message>
+    <message>
+      <source>Printed %1</source>
+      <translation>Se imprimió %1</translation>
+    </message>
+    <message>
+      <source>Wrote %1</source>
+      <translation>Se escribió %1</translation>
+    </message>
+    <message>
+      <source>Handed %1 to the mail client</source>
+      <translation>Se entregó %1 al cliente de correo</translation>
+    </message>
+    <message>
+      <source>the e-invoice was not mailed</source>
+      <translation>la factura electrónica no se envió</translation>
+    </message>
+    <message>
+      <source>quote</source>
+      <translation>presupuesto</translation>
+    </message>
+    <message>
+      <source>invoice</source>
+      <translation>factura</translation>
+    </message>
+    <message>
+      <source>Created %1</source>
+      <translation>Se creó %1</translation>
+    </message>
+    <message>
+      <source>Created %1 as a copy of %2</source>
+      <translation>Se creó %1 como copia de %2</translation>
+    </message>
+    <message>
+      <source>%1 was not converted</source>
+      <translation>%1 no se convirtió</translation>
+    </message>
+    <message>
+      <source>Converted into %1</source>
+      <translation>Convertido en %1</translation>
+    </message>
+    <message>
+      <source>Adjust Counter</source>
+      <translation>Ajustar contador</translation>
+    </message>
+    <message>
+      <source>%1 was not deleted</source>
+      <translation>%1 no se eliminó</translation>
+    </message>
+    <message>
+      <source>Deleted %1</source>
+      <translation>Se eliminó %1</translation>
+    </message>
+    <message>
+      <source>the status is 0, 1, 3 or 4 (overdue follows from the due date), not %1</source>
+      <translation>el estado es 0, 1, 3 o 4 (vencida resulta de la fecha de vencimiento), no %1</translation>
+    </message>
+    <message>
+      <source>%1 needs a number such as 120.50</source>
+      <translation>%1 necesita un número como 120.50</translation>
+    </message>
+    <message>
+      <source>Set Status</source>
+      <translation>Establecer estado</translation>
+    </message>
+    <message>
+      <source>%1: status %2</source>
+      <translation>%1: estado %2</translation>
+    </message>
+    <message>
+      <source>%1: delivered %2</source>
+      <translation>%1: entregado el %2</translation>
+    </message>
+    <message>
+      <source>TAG is a number from 0 to 8</source>
+      <translation>TAG es un número del 0 al 8</translation>
+    </message>
+    <message>
+      <source>there is no document %1</source>
+      <translation>no existe el documento %1</translation>
+    </message>
+    <message>
+      <source>%1 documents are numbered %2; name one by its uniqueID</source>
+      <translation>%1 documentos tienen el número %2; indique uno por su uniqueID</translation>
+    </message>
+    <message>
+      <source>text</source>
+      <translation>un texto</translation>
+    </message>
+    <message>
+      <source>date such as 2026-03-05</source>
+      <translation>una fecha como 2026-03-05</translation>
+    </message>
+    <message>
+      <source>amount such as 1234.50</source>
+      <translation>un importe como 1234.50</translation>
+    </message>
+    <message>
+      <source>percentage such as 10</source>
+      <translation>un porcentaje como 10</translation>
+    </message>
+    <message>
+      <source>yes or no</source>
+      <translation>yes o no</translation>
+    </message>
+    <message>
+      <source>choice</source>
+      <translation>una opción</translation>
+    </message>
+    <message>
+      <source>%1: %2 is marked as already sent; set its status back to 0 (created) first</source>
+      <translation>%1: %2 está marcado como ya enviado; vuelva a poner primero su estado en 0 (creado)</translation>
+    </message>
+    <message>
+      <source>there is no field %1; the fields are %2</source>
+      <translation>no existe el campo %1; los campos son %2</translation>
+    </message>
+    <message>
+      <source>%1 is not a %2 for %3</source>
+      <translation>%1 no es válido para %3, se espera %2</translation>
+    </message>
+    <message>
+      <source>%1: nothing changed</source>
+      <translation>%1: no ha cambiado nada</translation>
+    </message>
+    <message>
+      <source>%1: changed %2; its total is now %3</source>
+      <translation>%1: se cambió %2; el total es ahora %3</translation>
+    </message>
+    <message>
+      <source>%1 has %2 lines; LINE counts them from 1 as `tamo lines` lists them</source>
+      <translation>%1 tiene %2 líneas; LINE las cuenta desde 1, tal como las enumera `tamo lines`</translation>
+    </message>
+    <message>
+      <source>%1 is yes or no</source>
+      <translation>%1 es yes o no</translation>
+    </message>
+    <message>
+      <source>there is no line field %1; the fields are title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</source>
+      <translation>no existe el campo de línea %1; los campos son title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</translation>
+    </message>
+    <message>
+      <source>Changed "%1" of %2; its total is now %3</source>
+      <translation>Se cambió «%1» de %2; el total es ahora %3</translation>
+    </message>
+    <message>
+      <source>delete-line: "%1" was not deleted (questions are answered only with --yes)</source>
+      <translation>delete-line: «%1» no se eliminó (las preguntas solo se responden con --yes)</translation>
+    </message>
+    <message>
+      <source>Deleted "%1" from %2; its total is now %3</source>
+      <translation>Se eliminó «%1» de %2; el total es ahora %3</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; set its status back to Created to change or export it again</source>
+      <translation>%1 está marcado como ya enviado; vuelva a poner su estado en «Creada» para cambiarlo o exportarlo de nuevo</translation>
+    </message>
+    <message>
+      <source>possible</source>
+      <translation>posible</translation>
+    </message>
+    <message>
+      <source>not possible: %1</source>
+      <translation>no es posible: %1</translation>
+    </message>
+    <message>
+      <source>fatal</source>
+      <translation>grave</translation>
+    </message>
+    <message>
+      <source>warning</source>
+      <translation>advertencia</translation>
+    </message>
+    <message>
+      <source>passes the EN 16931 and XRechnung rules</source>
+      <translation>cumple las normas EN 16931 y XRechnung</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n fatal finding(s): the recipient's validator will likely reject the file</source>
+      <translation>
+        <numerusform>%n hallazgo grave: el validador del destinatario probablemente rechazará el archivo</numerusform>
+        <numerusform>%n hallazgos graves: el validador del destinatario probablemente rechazará el archivo</numerusform>
+      </translation>
+    </message>
+    <message>
+      <source>Skipped the e-invoice readiness check (--force); the file may lack required values.</source>
+      <translation>Se omitió la comprobación previa de la factura electrónica (--force); al archivo pueden faltarle valores obligatorios.</translation>
+    </message>
+    <message>
+      <source>no e-invoice for %1: %2 (see einvoice-details, settings)</source>
+      <translation>no hay factura electrónica para %1: %2 (véase einvoice-details, settings)</translation>
+    </message>
+    <message>
+      <source>no conformant e-invoice for %1: %2</source>
+      <translation>no hay factura electrónica conforme para %1: %2</translation>
+    </message>
+    <message>
+      <source>Warning: this e-invoice will likely be rejected: it breaks rules the recipient's validator checks (see einvoice-check %1).</source>
+      <translation>Atención: esta factura electrónica probablemente será rechazada: incumple normas que comprueba el validador del destinatario (véase einvoice-check %1).</translation>
+    </message>
+    <message>
+      <source>%1 cannot become an e-invoice yet</source>
+      <translation>%1 aún no puede convertirse en factura electrónica</translation>
+    </message>
+    <message>
+      <source>%1 breaks rules of EN 16931 or XRechnung</source>
+      <translation>%1 incumple normas de EN 16931 o XRechnung</translation>
+    </message>
+    <message>
+      <source>KEY is one of %1</source>
+      <translation>KEY es uno de %1</translation>
+    </message>
+    <message>
+      <source>%1: nothing was changed (questions are answered only with --yes)</source>
+      <translation>%1: no se cambió nada (las preguntas solo se responden con --yes)</translation>
+    </message>
+    <message>
+      <source>No safety copy was written at this start.</source>
+      <translation>En este inicio no se escribió ninguna copia de protección.</translation>
+    </message>
+    <message>
+      <source>Backed up the database to %1.
+Moved the store to %2; Tamo opens it there from now on.</source>
+      <translation>Se hizo una copia de seguridad de la base de datos en %1.
+El almacén se trasladó a %2; Tamo lo abrirá allí a partir de ahora.</translation>
+    </message>
+    <message>
+      <source>The store is already in %1.</source>
+      <translation>El almacén ya está en %1.</translation>
+    </message>
+    <message>
+      <source>move-store: the store stays in %1</source>
+      <translation>move-store: el almacén se queda en %1</translation>
+    </message>
+    <message>
+      <source>--price and --quantity need numbers such as 12.50</source>
+      <translation>--price y --quantity necesitan números como 12.50</translation>
+    </message>
+    <message>
+      <source>add-item: %1 was left as it is</source>
+      <translation>add-item: %1 se quedó como estaba</translation>
+    </message>
+    <message>
+      <source>Added "%1" (%2 x %3) to %4; its total is now %5</source>
+      <translation>Se añadió «%1» (%2 x %3) a %4; el total es ahora %5</translation>
+    </message>
+    <message>
+      <source>set-client: %1 was left as it is</source>
+      <translation>set-client: %1 se quedó como estaba</translation>
+    </message>
+    <message>
+      <source>there is no remembered client %1</source>
+      <translation>no existe el cliente guardado %1</translation>
+    </message>
+    <message>
+      <source>cannot read %1</source>
+      <translation>no se puede leer %1</translation>
+    </message>
+    <message>
+      <source>%1 has %2 contacts; --index counts them from 0</source>
+      <translation>%1 tiene %2 contactos; --index los cuenta desde 0</translation>
+    </message>
+    <message>
+      <source>The client of %1 is now %2</source>
+      <translation>El cliente de %1 es ahora %2</translation>
+    </message>
+    <message>
+      <source>there is no design %1 (see designs list)</source>
+      <translation>no existe el diseño %1 (véase designs list)</translation>
+    </message>
+    <message>
+      <source>cannot create the folder %1</source>
+      <translation>no se puede crear la carpeta %1</translation>
+    </message>
+    <message>
+      <source>not written: %1: %2</source>
+      <translation>no escrito: %1: %2</translation>
+    </message>
+    <message>
+      <source>%1 of %2 documents were not written</source>
+      <translation>No se escribieron %1 de %2 documentos</translation>
+    </message>
+    <message>
+      <source>(default)</source>
+      <translation>(predeterminado)</translation>
+    </message>
+    <message>
+      <source>nothing deleted (answer with --yes)</source>
+      <translation>no se eliminó nada (responda con --yes)</translation>
+    </message>
+    <message>
+      <source>%1 %2 (%3 lines) %4</source>
+      <translation>%1 %2 (%3 líneas) %4</translation>
+    </message>
+    <message>
+      <source>there is no template %1 (see templates list)</source>
+      <translation>no existe la plantilla %1 (véase templates list)</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; the template was not applied</source>
+      <translation>%1 está marcado como ya enviado; la plantilla no se aplicó</translation>
+    </message>
+    <message>
+      <source>%1 needs a date such as 2026-03-01</source>
+      <translation>%1 necesita una fecha como 2026-03-01</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (1 page)</source>
+      <translation>Se escribió %1 (1 página)</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (%2 pages)</source>
+      <translation>Se escribió %1 (%2 páginas)</translation>
+    </message>
+    <message>
+      <source>The number of sample documents cannot be negative.</source>
+      <translation>El número de documentos de ejemplo no puede ser negativo.</translation>
+    </message>
+    <message>
+      <source>The number of lines per document cannot be negative.</source>
+      <translation>El número de líneas por documento no puede ser negativo.</translation>
+    </message>
+    <message>
+      <source>The number of sample clients cannot be negative.</source>
+      <translation>El número de clientes de ejemplo no puede ser negativo.</translation>
+    </message>
+    <message>
+      <source>The sample cannot be dated: the clock gives no time.</source>
+      <translation>El ejemplo no se puede fechar: el reloj no da ninguna hora.</translation>
+    </message>
+    <message>
+      <source>--file gives the image of prefsLogo</source>
+      <translation>--file indica la imagen de prefsLogo</translation>
+    </message>
+    <message>
+      <source>prefsLogo holds an image: set it with --file IMAGE, or remove it with an empty value</source>
+      <translation>prefsLogo contiene una imagen: establézcala con --file IMAGE o quítela con un valor vacío</translation>
+    </message>
+    <message>
+      <source>%1 is not a valid value for %2</source>
+      <translation>%1 no es un valor válido para %2</translation>
+    </message>
+    <message>
+      <source>there is no setting named %1</source>
+      <translation>no existe ningún ajuste llamado %1</translation>
+    </message>
+    <message>
+      <source>there are no starting values for "%1"</source>
+      <translation>no hay valores iniciales para «%1»</translation>
+    </message>
+    <message>
+      <source>setup: nothing was changed (questions are answered only with --yes)</source>
+      <translation>setup: no se cambió nada (las preguntas solo se responden con --yes)</translation>
+    </message>
+    <message>
+      <source>setup: no starting values were applied</source>
+      <translation>setup: no se aplicó ningún valor inicial</translation>
+    </message>
+    <message>
+      <source>Applied %1 starting values (%2).</source>
+      <translation>Se aplicaron %1 valores iniciales (%2).</translation>
     </message>
     <message>
       <source>No mail client could take the message.</source>
@@ -1036,10 +1621,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Total</translation>
     </message>
     <message>
-      <source>Due</source>
-      <translation>Pendiente</translation>
-    </message>
-    <message>
       <source>TOTAL</source>
       <translation>TOTAL</translation>
     </message>
@@ -1082,10 +1663,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>--kind is 0 (every sent invoice), 1 (paid) or 2 (overdue)</source>
       <translation>--kind es 0 (todas las facturas enviadas), 1 (pagadas) o 2 (vencidas)</translation>
-    </message>
-    <message>
-      <source>%1 needs a date such as 2026-03-01</source>
-      <translation>%1 necesita una fecha como 2026-03-01</translation>
     </message>
     <message>
       <source>Handed “%1” to %2.</source>
@@ -1150,10 +1727,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
       <translation>Solo %1 de sus %2 bytes llegaron al disco.</translation>
-    </message>
-    <message>
-      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
-      <translation>el almacén «%1» solo se puede leer: %2 «%3» lo modificaría.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1460,6 +2033,18 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
         <numerusform>No se puede leer %n tarjeta.</numerusform>
         <numerusform>No se pueden leer %n tarjetas.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>unknown option %1</source>
+      <translation>opción desconocida %1</translation>
+    </message>
+    <message>
+      <source>%1 takes no value</source>
+      <translation>%1 no admite ningún valor</translation>
+    </message>
+    <message>
+      <source>%1 needs a value</source>
+      <translation>%1 necesita un valor</translation>
     </message>
     <message>
       <source>Your name or your business's name</source>
@@ -1964,18 +2549,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Fecha de vencimiento:</translation>
     </message>
     <message>
-      <source>Number</source>
-      <translation>Número</translation>
-    </message>
-    <message>
-      <source>Date</source>
-      <translation>Fecha</translation>
-    </message>
-    <message>
-      <source>Amount</source>
-      <translation>Importe</translation>
-    </message>
-    <message>
       <source>New Template</source>
       <translation>Nueva plantilla</translation>
     </message>
@@ -2010,14 +2583,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Double-click a finding to go to what to change.</source>
       <translation>Haga doble clic en un hallazgo para ir a lo que debe cambiar.</translation>
-    </message>
-    <message>
-      <source>fatal</source>
-      <translation>grave</translation>
-    </message>
-    <message>
-      <source>warning</source>
-      <translation>advertencia</translation>
     </message>
     <message>
       <source>Change: %1</source>
@@ -3027,6 +3592,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Print Sales Report</source>
       <translation>Imprimir informe de ventas</translation>
+    </message>
+    <message>
+      <source>%1 is marked as sent</source>
+      <translation>%1 está marcado como enviado</translation>
     </message>
     <message>
       <source>Type a whole number, such as 0 or 12.</source>

@@ -636,6 +636,134 @@
       <translation>Récupérer une base de données précédente…</translation>
     </message>
     <message>
+      <source>the listed documents, newest first</source>
+      <translation>les documents affichés, les plus récents d’abord</translation>
+    </message>
+    <message>
+      <source>list --changed: what differs from the starting values of the language set up</source>
+      <translation>list --changed : ce qui diffère des valeurs de départ de la langue configurée</translation>
+    </message>
+    <message>
+      <source>the starting values of a language, as the setup assistant's first page applies them</source>
+      <translation>les valeurs de départ d’une langue, comme les applique la première page de l’assistant de configuration</translation>
+    </message>
+    <message>
+      <source>recalculates every document and prints the sums</source>
+      <translation>recalcule tous les documents et affiche les sommes</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoinvoices</source>
+      <translation>liste de propriétés XML, .tamoinvoices</translation>
+    </message>
+    <message>
+      <source>XML property list, .tamoitems</source>
+      <translation>liste de propriétés XML, .tamoitems</translation>
+    </message>
+    <message>
+      <source>every invoice</source>
+      <translation>toutes les factures</translation>
+    </message>
+    <message>
+      <source>the listed invoices</source>
+      <translation>les factures affichées</translation>
+    </message>
+    <message>
+      <source>the store file, .tamo2db</source>
+      <translation>le fichier de la base, .tamo2db</translation>
+    </message>
+    <message>
+      <source>keyed archive of every invoice, .invdump</source>
+      <translation>archive à clés de toutes les factures, .invdump</translation>
+    </message>
+    <message>
+      <source>a document file, .tamo</source>
+      <translation>un fichier de document, .tamo</translation>
+    </message>
+    <message>
+      <source>a raw store copy, .sqlite</source>
+      <translation>une copie brute de la base, .sqlite</translation>
+    </message>
+    <message>
+      <source>a complete backup (default: the documents folder), then the store moves to DIR</source>
+      <translation>une sauvegarde complète (par défaut : le dossier Documents), puis la base est déplacée dans DIR</translation>
+    </message>
+    <message>
+      <source>without COPY: lists the recovery copies; COPY is a copy's number, file name or path</source>
+      <translation>sans COPY : liste les copies de récupération ; COPY est le numéro, le nom de fichier ou le chemin d’une copie</translation>
+    </message>
+    <message>
+      <source>answers as when the desktop opens a file: a design is offered for import</source>
+      <translation>répond comme lorsque le bureau ouvre un fichier : une mise en page est proposée à l’importation</translation>
+    </message>
+    <message>
+      <source>a quote into an invoice</source>
+      <translation>un devis en facture</translation>
+    </message>
+    <message>
+      <source>STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)</source>
+      <translation>STATUS : 0 créée, 1 envoyée, 3 payée, 4 partiellement payée (le retard découle de l’échéance)</translation>
+    </message>
+    <message>
+      <source>0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent</source>
+      <translation>0 tous, 1 ouverts, 2 en retard, 3 payés, 4 devis, 5-8 récents</translation>
+    </message>
+    <message>
+      <source>I counts from 0</source>
+      <translation>I compte à partir de 0</translation>
+    </message>
+    <message>
+      <source>the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, e-invoice buyer; dates as 2026-03-05, percentages as 10</source>
+      <translation>les champs que montre l’éditeur : titre, objet, date, échéance, textes, client, livraison, remise, acheteur de la facture électronique ; dates comme 2026-03-05, pourcentages comme 10</translation>
+    </message>
+    <message>
+      <source>the document's lines, numbered as edit-line and delete-line take them</source>
+      <translation>les lignes du document, numérotées comme edit-line et delete-line les attendent</translation>
+    </message>
+    <message>
+      <source>KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)</source>
+      <translation>KEY : title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes ou no)</translation>
+    </message>
+    <message>
+      <source>XRechnung XML of document N, after the readiness check; --conformant writes the file the EN 16931 rules require (default: setting prefsEvoiceConformantBool)</source>
+      <translation>XML XRechnung du document N, après la vérification préalable ; --conformant écrit le fichier qu’exigent les règles EN 16931 (par défaut : réglage prefsEvoiceConformantBool)</translation>
+    </message>
+    <message>
+      <source>readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing fatal remains</source>
+      <translation>vérification préalable, puis les règles EN 16931 et XRechnung ; code de sortie 0 seulement s’il ne reste rien de bloquant</translation>
+    </message>
+    <message>
+      <source>every listed document, DIR/NUMBER_N.pdf</source>
+      <translation>tous les documents affichés, DIR/NUMBER_N.pdf</translation>
+    </message>
+    <message>
+      <source>the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00</source>
+      <translation>le rapport des ventes des factures affichées ; DATE est 2026-03-01 ou 2026-03-01T12:00</translation>
+    </message>
+    <message>
+      <source>every listed document, oldest first, as PDF</source>
+      <translation>tous les documents affichés, les plus anciens d’abord, en PDF</translation>
+    </message>
+    <message>
+      <source>prints document N on the default printer or NAME; marks an invoice as sent when markInvoiceAsSent is on</source>
+      <translation>imprime le document N sur l’imprimante par défaut ou sur NAME ; marque une facture comme envoyée si markInvoiceAsSent est activé</translation>
+    </message>
+    <message>
+      <source>document N as PDF file; marks an invoice as sent as print does</source>
+      <translation>le document N en fichier PDF ; marque une facture comme envoyée comme le fait print</translation>
+    </message>
+    <message>
+      <source>a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after its checks; marks an invoice as sent as print does</source>
+      <translation>un nouveau message dans le client de messagerie (xdg-email) avec le PDF, ou avec la facture électronique après ses vérifications ; marque une facture comme envoyée comme le fait print</translation>
+    </message>
+    <message>
+      <source>document file that import-document reads (.tamo), or its XML property list</source>
+      <translation>fichier de document que lit import-document (.tamo), ou sa liste de propriétés XML</translation>
+    </message>
+    <message>
+      <source>the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or .kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items keeps each invoice's lines instead of one summary; prints the file's path</source>
+      <translation>les factures de la période (par défaut : toutes celles affichées) en kelvaneExport.ldxtamo ou .kelvtamo, transmises au bureau ; kind 0 toutes les factures envoyées, 1 payées, 2 en retard ; --items garde les lignes de chaque facture au lieu d’un résumé ; affiche le chemin du fichier</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>« %1 » n’est pas un nombre avec lequel Tamo peut calculer.</translation>
     </message>
@@ -662,6 +790,463 @@
     <message>
       <source>A rate is at most 100 % (“%1”).</source>
       <translation>Un taux est d’au plus 100 % (« %1 »).</translation>
+    </message>
+    <message>
+      <source>Invoices: %1 (%2 sent)</source>
+      <translation>Factures : %1 (%2 envoyées)</translation>
+    </message>
+    <message>
+      <source>Quotes: %1</source>
+      <translation>Devis : %1</translation>
+    </message>
+    <message>
+      <source>Total: %1</source>
+      <translation>Total : %1</translation>
+    </message>
+    <message>
+      <source>Paid: %1</source>
+      <translation>Payé : %1</translation>
+    </message>
+    <message>
+      <source>Due: %1</source>
+      <translation>Dû : %1</translation>
+    </message>
+    <message>
+      <source>Status</source>
+      <translation>Statut</translation>
+    </message>
+    <message>
+      <source>Number</source>
+      <translation>Numéro</translation>
+    </message>
+    <message>
+      <source>Date</source>
+      <translation>Date</translation>
+    </message>
+    <message>
+      <source>Due</source>
+      <translation>Dû</translation>
+    </message>
+    <message>
+      <source>Amount</source>
+      <translation>Montant</translation>
+    </message>
+    <message>
+      <source>%1 needs a whole number</source>
+      <translation>%1 attend un nombre entier</translation>
+    </message>
+    <message>
+      <source>Generated %1 documents with %2 lines and %3 clients.</source>
+      <translation>%1 documents avec %2 lignes et %3 clients générés.</translation>
+    </message>
+    <message>
+      <source>--store needs a folder</source>
+      <translation>--store attend un dossier</translation>
+    </message>
+    <message>
+      <source>usage: tamo %1</source>
+      <translation>utilisation : tamo %1</translation>
+    </message>
+    <message>
+      <source>  Without a command, opens the window (or brings the one open on the store forward).
+  Options may stand anywhere; "--" ends them.
+  tamo [--store DIR] tamo://…  hands a request to the window, or answers it without one
+  tamo [--store DIR] FILE      asks the window to open FILE, as the desktop does
+  --store DIR   keep store, settings and data files in DIR
+  --yes         answer questions with their default button
+  COMMAND --help, or tamo help COMMAND, tells more of one command.
+commands:
+</source>
+      <translation>  Sans commande, ouvre la fenêtre (ou met au premier plan celle ouverte sur la base).
+  Les options peuvent figurer n’importe où ; « -- » les termine.
+  tamo [--store DIR] tamo://…  transmet une requête à la fenêtre, ou y répond sans elle
+  tamo [--store DIR] FILE      demande à la fenêtre d’ouvrir FILE, comme le fait le bureau
+  --store DIR   garder la base, les réglages et les fichiers de données dans DIR
+  --yes         répondre aux questions par leur bouton par défaut
+  COMMAND --help, ou tamo help COMMAND, en dit plus sur une commande.
+commandes :
+</translation>
+    </message>
+    <message>
+      <source>unknown command "%1"</source>
+      <translation>commande inconnue « %1 »</translation>
+    </message>
+    <message>
+      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
+      <translation>la base « %1 » ne peut qu’être lue : %2 « %3 » la modifierait.</translation>
+    </message>
+    <message>
+      <source>nothing was exported</source>
+      <translation>rien n’a été exporté</translation>
+    </message>
+    <message>
+      <source>%1: nothing was written</source>
+      <translation>%1 : rien n’a été écrit</translation>
+    </message>
+    <message>
+      <source>the export failed</source>
+      <translation>l’exportation a échoué</translation>
+    </message>
+    <message>
+      <source>Printed %1</source>
+      <translation>%1 imprimé</translation>
+    </message>
+    <message>
+      <source>Wrote %1</source>
+      <translation>%1 écrit</translation>
+    </message>
+    <message>
+      <source>Handed %1 to the mail client</source>
+      <translation>%1 transmis au client de messagerie</translation>
+    </message>
+    <message>
+      <source>the e-invoice was not mailed</source>
+      <translation>la facture électronique n’a pas été envoyée</translation>
+    </message>
+    <message>
+      <source>quote</source>
+      <translation>devis</translation>
+    </message>
+    <message>
+      <source>invoice</source>
+      <translation>facture</translation>
+    </message>
+    <message>
+      <source>Created %1</source>
+      <translation>%1 créé</translation>
+    </message>
+    <message>
+      <source>Created %1 as a copy of %2</source>
+      <translation>%1 créé comme copie de %2</translation>
+    </message>
+    <message>
+      <source>%1 was not converted</source>
+      <translation>%1 n’a pas été converti</translation>
+    </message>
+    <message>
+      <source>Converted into %1</source>
+      <translation>Converti en %1</translation>
+    </message>
+    <message>
+      <source>Adjust Counter</source>
+      <translation>Ajuster le compteur</translation>
+    </message>
+    <message>
+      <source>%1 was not deleted</source>
+      <translation>%1 n’a pas été supprimé</translation>
+    </message>
+    <message>
+      <source>Deleted %1</source>
+      <translation>%1 supprimé</translation>
+    </message>
+    <message>
+      <source>the status is 0, 1, 3 or 4 (overdue follows from the due date), not %1</source>
+      <translation>le statut est 0, 1, 3 ou 4 (le retard découle de l’échéance), pas %1</translation>
+    </message>
+    <message>
+      <source>%1 needs a number such as 120.50</source>
+      <translation>%1 attend un nombre tel que 120.50</translation>
+    </message>
+    <message>
+      <source>Set Status</source>
+      <translation>Définition du statut</translation>
+    </message>
+    <message>
+      <source>%1: status %2</source>
+      <translation>%1 : statut %2</translation>
+    </message>
+    <message>
+      <source>%1: delivered %2</source>
+      <translation>%1 : livré le %2</translation>
+    </message>
+    <message>
+      <source>TAG is a number from 0 to 8</source>
+      <translation>TAG est un nombre de 0 à 8</translation>
+    </message>
+    <message>
+      <source>there is no document %1</source>
+      <translation>il n’y a pas de document %1</translation>
+    </message>
+    <message>
+      <source>%1 documents are numbered %2; name one by its uniqueID</source>
+      <translation>%1 documents portent le numéro %2 ; désignez-en un par son uniqueID</translation>
+    </message>
+    <message>
+      <source>text</source>
+      <translation>un texte</translation>
+    </message>
+    <message>
+      <source>date such as 2026-03-05</source>
+      <translation>une date telle que 2026-03-05</translation>
+    </message>
+    <message>
+      <source>amount such as 1234.50</source>
+      <translation>un montant tel que 1234.50</translation>
+    </message>
+    <message>
+      <source>percentage such as 10</source>
+      <translation>un pourcentage tel que 10</translation>
+    </message>
+    <message>
+      <source>yes or no</source>
+      <translation>yes ou no</translation>
+    </message>
+    <message>
+      <source>choice</source>
+      <translation>un choix</translation>
+    </message>
+    <message>
+      <source>%1: %2 is marked as already sent; set its status back to 0 (created) first</source>
+      <translation>%1 : %2 est marqué comme déjà envoyé ; remettez d’abord son statut à 0 (créé)</translation>
+    </message>
+    <message>
+      <source>there is no field %1; the fields are %2</source>
+      <translation>il n’y a pas de champ %1 ; les champs sont %2</translation>
+    </message>
+    <message>
+      <source>%1 is not a %2 for %3</source>
+      <translation>%1 n’est pas valable pour %3, il faut %2</translation>
+    </message>
+    <message>
+      <source>%1: nothing changed</source>
+      <translation>%1 : rien n’a changé</translation>
+    </message>
+    <message>
+      <source>%1: changed %2; its total is now %3</source>
+      <translation>%1 : %2 modifié ; le total est maintenant de %3</translation>
+    </message>
+    <message>
+      <source>%1 has %2 lines; LINE counts them from 1 as `tamo lines` lists them</source>
+      <translation>%1 a %2 lignes ; LINE les compte à partir de 1, comme les liste `tamo lines`</translation>
+    </message>
+    <message>
+      <source>%1 is yes or no</source>
+      <translation>%1 vaut yes ou no</translation>
+    </message>
+    <message>
+      <source>there is no line field %1; the fields are title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</source>
+      <translation>il n’y a pas de champ de ligne %1 ; les champs sont title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3</translation>
+    </message>
+    <message>
+      <source>Changed "%1" of %2; its total is now %3</source>
+      <translation>« %1 » de %2 modifié ; le total est maintenant de %3</translation>
+    </message>
+    <message>
+      <source>delete-line: "%1" was not deleted (questions are answered only with --yes)</source>
+      <translation>delete-line : « %1 » n’a pas été supprimé (on ne répond aux questions qu’avec --yes)</translation>
+    </message>
+    <message>
+      <source>Deleted "%1" from %2; its total is now %3</source>
+      <translation>« %1 » supprimé de %2 ; le total est maintenant de %3</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; set its status back to Created to change or export it again</source>
+      <translation>%1 est marqué comme déjà envoyé ; remettez son statut à « Créée » pour le modifier ou l’exporter à nouveau</translation>
+    </message>
+    <message>
+      <source>possible</source>
+      <translation>possible</translation>
+    </message>
+    <message>
+      <source>not possible: %1</source>
+      <translation>impossible : %1</translation>
+    </message>
+    <message>
+      <source>fatal</source>
+      <translation>bloquant</translation>
+    </message>
+    <message>
+      <source>warning</source>
+      <translation>avertissement</translation>
+    </message>
+    <message>
+      <source>passes the EN 16931 and XRechnung rules</source>
+      <translation>respecte les règles EN 16931 et XRechnung</translation>
+    </message>
+    <message numerus="yes">
+      <source>%n fatal finding(s): the recipient's validator will likely reject the file</source>
+      <translation>
+        <numerusform>%n constat bloquant : le validateur du destinataire rejettera probablement le fichier</numerusform>
+        <numerusform>%n constats bloquants : le validateur du destinataire rejettera probablement le fichier</numerusform>
+      </translation>
+    </message>
+    <message>
+      <source>Skipped the e-invoice readiness check (--force); the file may lack required values.</source>
+      <translation>Vérification préalable de la facture électronique ignorée (--force) ; il peut manquer au fichier des valeurs obligatoires.</translation>
+    </message>
+    <message>
+      <source>no e-invoice for %1: %2 (see einvoice-details, settings)</source>
+      <translation>pas de facture électronique pour %1 : %2 (voir einvoice-details, settings)</translation>
+    </message>
+    <message>
+      <source>no conformant e-invoice for %1: %2</source>
+      <translation>pas de facture électronique conforme pour %1 : %2</translation>
+    </message>
+    <message>
+      <source>Warning: this e-invoice will likely be rejected: it breaks rules the recipient's validator checks (see einvoice-check %1).</source>
+      <translation>Attention : cette facture électronique sera probablement rejetée : elle enfreint des règles que vérifie le validateur du destinataire (voir einvoice-check %1).</translation>
+    </message>
+    <message>
+      <source>%1 cannot become an e-invoice yet</source>
+      <translation>%1 ne peut pas encore devenir une facture électronique</translation>
+    </message>
+    <message>
+      <source>%1 breaks rules of EN 16931 or XRechnung</source>
+      <translation>%1 enfreint des règles EN 16931 ou XRechnung</translation>
+    </message>
+    <message>
+      <source>KEY is one of %1</source>
+      <translation>KEY est l’un de %1</translation>
+    </message>
+    <message>
+      <source>%1: nothing was changed (questions are answered only with --yes)</source>
+      <translation>%1 : rien n’a été modifié (on ne répond aux questions qu’avec --yes)</translation>
+    </message>
+    <message>
+      <source>No safety copy was written at this start.</source>
+      <translation>Aucune copie de sécurité n’a été créée à ce démarrage.</translation>
+    </message>
+    <message>
+      <source>Backed up the database to %1.
+Moved the store to %2; Tamo opens it there from now on.</source>
+      <translation>Base de données sauvegardée dans %1.
+Base déplacée dans %2 ; Tamo l’ouvrira désormais à cet endroit.</translation>
+    </message>
+    <message>
+      <source>The store is already in %1.</source>
+      <translation>La base se trouve déjà dans %1.</translation>
+    </message>
+    <message>
+      <source>move-store: the store stays in %1</source>
+      <translation>move-store : la base reste dans %1</translation>
+    </message>
+    <message>
+      <source>--price and --quantity need numbers such as 12.50</source>
+      <translation>--price et --quantity attendent des nombres tels que 12.50</translation>
+    </message>
+    <message>
+      <source>add-item: %1 was left as it is</source>
+      <translation>add-item : %1 est resté tel quel</translation>
+    </message>
+    <message>
+      <source>Added "%1" (%2 x %3) to %4; its total is now %5</source>
+      <translation>« %1 » (%2 x %3) ajouté à %4 ; le total est maintenant de %5</translation>
+    </message>
+    <message>
+      <source>set-client: %1 was left as it is</source>
+      <translation>set-client : %1 est resté tel quel</translation>
+    </message>
+    <message>
+      <source>there is no remembered client %1</source>
+      <translation>il n’y a pas de client enregistré %1</translation>
+    </message>
+    <message>
+      <source>cannot read %1</source>
+      <translation>impossible de lire %1</translation>
+    </message>
+    <message>
+      <source>%1 has %2 contacts; --index counts them from 0</source>
+      <translation>%1 contient %2 contacts ; --index les compte à partir de 0</translation>
+    </message>
+    <message>
+      <source>The client of %1 is now %2</source>
+      <translation>Le client de %1 est maintenant %2</translation>
+    </message>
+    <message>
+      <source>there is no design %1 (see designs list)</source>
+      <translation>il n’y a pas de mise en page %1 (voir designs list)</translation>
+    </message>
+    <message>
+      <source>cannot create the folder %1</source>
+      <translation>impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+      <source>not written: %1: %2</source>
+      <translation>non écrit : %1 : %2</translation>
+    </message>
+    <message>
+      <source>%1 of %2 documents were not written</source>
+      <translation>%1 documents sur %2 n’ont pas été écrits</translation>
+    </message>
+    <message>
+      <source>(default)</source>
+      <translation>(par défaut)</translation>
+    </message>
+    <message>
+      <source>nothing deleted (answer with --yes)</source>
+      <translation>rien n’a été supprimé (répondre avec --yes)</translation>
+    </message>
+    <message>
+      <source>%1 %2 (%3 lines) %4</source>
+      <translation>%1 %2 (%3 lignes) %4</translation>
+    </message>
+    <message>
+      <source>there is no template %1 (see templates list)</source>
+      <translation>il n’y a pas de modèle %1 (voir templates list)</translation>
+    </message>
+    <message>
+      <source>%1 is marked as already sent; the template was not applied</source>
+      <translation>%1 est marqué comme déjà envoyé ; le modèle n’a pas été appliqué</translation>
+    </message>
+    <message>
+      <source>%1 needs a date such as 2026-03-01</source>
+      <translation>%1 requiert une date telle que 2026-03-01</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (1 page)</source>
+      <translation>%1 écrit (1 page)</translation>
+    </message>
+    <message>
+      <source>Wrote %1 (%2 pages)</source>
+      <translation>%1 écrit (%2 pages)</translation>
+    </message>
+    <message>
+      <source>The number of sample documents cannot be negative.</source>
+      <translation>Le nombre de documents d’exemple ne peut pas être négatif.</translation>
+    </message>
+    <message>
+      <source>The number of lines per document cannot be negative.</source>
+      <translation>Le nombre de lignes par document ne peut pas être négatif.</translation>
+    </message>
+    <message>
+      <source>The number of sample clients cannot be negative.</source>
+      <translation>Le nombre de clients d’exemple ne peut pas être négatif.</translation>
+    </message>
+    <message>
+      <source>The sample cannot be dated: the clock gives no time.</source>
+      <translation>L’exemple ne peut pas être daté : l’horloge ne donne pas d’heure.</translation>
+    </message>
+    <message>
+      <source>--file gives the image of prefsLogo</source>
+      <translation>--file donne l’image de prefsLogo</translation>
+    </message>
+    <message>
+      <source>prefsLogo holds an image: set it with --file IMAGE, or remove it with an empty value</source>
+      <translation>prefsLogo contient une image : définissez-la avec --file IMAGE, ou supprimez-la avec une valeur vide</translation>
+    </message>
+    <message>
+      <source>%1 is not a valid value for %2</source>
+      <translation>%1 n’est pas une valeur valable pour %2</translation>
+    </message>
+    <message>
+      <source>there is no setting named %1</source>
+      <translation>il n’y a pas de réglage nommé %1</translation>
+    </message>
+    <message>
+      <source>there are no starting values for "%1"</source>
+      <translation>il n’y a pas de valeurs de départ pour « %1 »</translation>
+    </message>
+    <message>
+      <source>setup: nothing was changed (questions are answered only with --yes)</source>
+      <translation>setup : rien n’a été modifié (on ne répond aux questions qu’avec --yes)</translation>
+    </message>
+    <message>
+      <source>setup: no starting values were applied</source>
+      <translation>setup : aucune valeur de départ n’a été appliquée</translation>
+    </message>
+    <message>
+      <source>Applied %1 starting values (%2).</source>
+      <translation>%1 valeurs de départ appliquées (%2).</translation>
     </message>
     <message>
       <source>No mail client could take the message.</source>
@@ -1036,10 +1621,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Total</translation>
     </message>
     <message>
-      <source>Due</source>
-      <translation>Dû</translation>
-    </message>
-    <message>
       <source>TOTAL</source>
       <translation>TOTAL</translation>
     </message>
@@ -1082,10 +1663,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>--kind is 0 (every sent invoice), 1 (paid) or 2 (overdue)</source>
       <translation>--kind vaut 0 (toutes les factures envoyées), 1 (payées) ou 2 (en retard)</translation>
-    </message>
-    <message>
-      <source>%1 needs a date such as 2026-03-01</source>
-      <translation>%1 requiert une date telle que 2026-03-01</translation>
     </message>
     <message>
       <source>Handed “%1” to %2.</source>
@@ -1150,10 +1727,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
       <translation>Seuls %1 de ses %2 octets ont atteint le disque.</translation>
-    </message>
-    <message>
-      <source>the store “%1” may only be read: %2 “%3” would change it.</source>
-      <translation>la base « %1 » ne peut qu’être lue : %2 « %3 » la modifierait.</translation>
     </message>
     <message>
       <source>First name:</source>
@@ -1460,6 +2033,18 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
         <numerusform>%n fiche ne peut pas être lue.</numerusform>
         <numerusform>%n fiches ne peuvent pas être lues.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>unknown option %1</source>
+      <translation>option inconnue %1</translation>
+    </message>
+    <message>
+      <source>%1 takes no value</source>
+      <translation>%1 ne prend pas de valeur</translation>
+    </message>
+    <message>
+      <source>%1 needs a value</source>
+      <translation>%1 attend une valeur</translation>
     </message>
     <message>
       <source>Your name or your business's name</source>
@@ -1964,18 +2549,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Échéance :</translation>
     </message>
     <message>
-      <source>Number</source>
-      <translation>Numéro</translation>
-    </message>
-    <message>
-      <source>Date</source>
-      <translation>Date</translation>
-    </message>
-    <message>
-      <source>Amount</source>
-      <translation>Montant</translation>
-    </message>
-    <message>
       <source>New Template</source>
       <translation>Nouveau modèle</translation>
     </message>
@@ -2010,14 +2583,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Double-click a finding to go to what to change.</source>
       <translation>Double-cliquez sur un résultat pour accéder à ce qu'il faut modifier.</translation>
-    </message>
-    <message>
-      <source>fatal</source>
-      <translation>bloquant</translation>
-    </message>
-    <message>
-      <source>warning</source>
-      <translation>avertissement</translation>
     </message>
     <message>
       <source>Change: %1</source>
@@ -3027,6 +3592,10 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Print Sales Report</source>
       <translation>Imprimer le rapport des ventes</translation>
+    </message>
+    <message>
+      <source>%1 is marked as sent</source>
+      <translation>%1 est marqué comme envoyé</translation>
     </message>
     <message>
       <source>Type a whole number, such as 0 or 12.</source>

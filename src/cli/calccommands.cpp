@@ -28,13 +28,11 @@ std::optional<Failure> recalcCommand(AppSession& session, const CommandArgs& arg
         Totals(session).calculateDocuments(context.fetch("Invoice"));
     }
     const DocumentStatistics& s = session.statistics();
-    out << QStringLiteral("Invoices: %1 (%2 sent)\n")
-               .arg(s.invoiceCountForNumber)
-               .arg(s.invoiceCount)
-        << QStringLiteral("Quotes: %1\n").arg(s.quoteCount)
-        << QStringLiteral("Total: %1\n").arg(money(s.totalAmount))
-        << QStringLiteral("Paid: %1\n").arg(money(s.paidAmount))
-        << QStringLiteral("Due: %1\n").arg(money(s.dueAmount));
+    out << tr("Invoices: %1 (%2 sent)").arg(s.invoiceCountForNumber).arg(s.invoiceCount) << '\n'
+        << tr("Quotes: %1").arg(s.quoteCount) << '\n'
+        << tr("Total: %1").arg(money(s.totalAmount)) << '\n'
+        << tr("Paid: %1").arg(money(s.paidAmount)) << '\n'
+        << tr("Due: %1").arg(money(s.dueAmount)) << '\n';
     return std::nullopt;
 }
 

@@ -1,4 +1,5 @@
 #include "cli/commandargs.h"
+#include "platform/translations.h"
 
 #include <QRegularExpression>
 
@@ -50,11 +51,11 @@ std::expected<CommandArgs, Failure> CommandArgs::parse(const QString& synopsis,
         }
         const QString name = word.section(u'=', 0, 0);
         if (!known.contains(name)) {
-            return std::unexpected(args.usage(QStringLiteral("unknown option %1").arg(word)));
+            return std::unexpected(args.usage(tr("unknown option %1").arg(word)));
         }
         if (!known.value(name)) {
             if (word.contains(u'=')) {
-                return std::unexpected(args.usage(QStringLiteral("%1 takes no value").arg(name)));
+                return std::unexpected(args.usage(tr("%1 takes no value").arg(name)));
             }
             args.given_.insert(name, QString());
         } else if (word.contains(u'=')) {
@@ -62,7 +63,7 @@ std::expected<CommandArgs, Failure> CommandArgs::parse(const QString& synopsis,
         } else if (i + 1 < words.size()) {
             args.given_.insert(name, words[++i]);
         } else {
-            return std::unexpected(args.usage(QStringLiteral("%1 needs a value").arg(name)));
+            return std::unexpected(args.usage(tr("%1 needs a value").arg(name)));
         }
     }
     return args;
@@ -70,7 +71,7 @@ std::expected<CommandArgs, Failure> CommandArgs::parse(const QString& synopsis,
 
 Failure CommandArgs::usage(const QString& problem) const
 {
-    const QString line = QStringLiteral("usage: tamo %1").arg(synopsis_);
+    const QString line = tr("usage: tamo %1").arg(synopsis_);
     if (problem.isEmpty()) {
         return Failure{line, kUsageError};
     }

@@ -66,13 +66,13 @@ void printDocumentList(AppSession& session, bool json, QTextStream& out)
     }
     const QLocale c = QLocale::c();
     out << QStringLiteral("%1  %2  %3  %4  %5  %6  %7\n")
-               .arg(QStringLiteral("Status"), -14)
-               .arg(QStringLiteral("Number"), -14)
-               .arg(QStringLiteral("Title"), -20)
-               .arg(QStringLiteral("Client"), -28)
-               .arg(QStringLiteral("Date"), -10)
-               .arg(QStringLiteral("Due"), -10)
-               .arg(QStringLiteral("Amount"), 14);
+               .arg(tr("Status"), -14)
+               .arg(tr("Number"), -14)
+               .arg(tr("Title"), -20)
+               .arg(tr("Client"), -28)
+               .arg(tr("Date"), -10)
+               .arg(tr("Due"), -10)
+               .arg(tr("Amount"), 14);
     for (const Record* d : documents) {
         out << QStringLiteral("%1  %2  %3  %4  %5  %6  %7 %8\n")
                    .arg(statusLabel(d), -14)
@@ -103,7 +103,7 @@ std::optional<Failure> generateSampleCommand(AppSession& session, const CommandA
             bool ok = false;
             *target = args.value(option).toInt(&ok);
             if (!ok || *target < 0) {
-                return args.usage(QStringLiteral("%1 needs a whole number").arg(option));
+                return args.usage(tr("%1 needs a whole number").arg(option));
             }
         }
     }
@@ -111,17 +111,18 @@ std::optional<Failure> generateSampleCommand(AppSession& session, const CommandA
         bool ok = false;
         options.seed = args.value(u"--seed"_qs).toUInt(&ok);
         if (!ok) {
-            return args.usage(u"--seed needs a whole number"_qs);
+            return args.usage(tr("%1 needs a whole number").arg(u"--seed"_qs));
         }
     }
     auto generated = generateSample(*session.context(), session.clock(), options);
     if (!generated) {
         return Failure{generated.error().text()};
     }
-    out << QStringLiteral("Generated %1 documents with %2 lines and %3 clients.\n")
+    out << tr("Generated %1 documents with %2 lines and %3 clients.")
                .arg(generated->documents)
                .arg(generated->items)
-               .arg(generated->clients);
+               .arg(generated->clients)
+        << '\n';
     return std::nullopt;
 }
 
@@ -136,7 +137,7 @@ enum class Access { Reads, Writes, ListReads };
 // note for the help, whether it needs the store, what it does to it, and what runs it.
 struct CommandEntry {
     const char16_t* synopsis;
-    const char16_t* note;
+    const char* note;  // translated when shown
     bool needsStore;
     Access access;
     Command run;
@@ -155,80 +156,110 @@ constexpr auto R = Access::Reads;
 constexpr auto W = Access::Writes;
 
 const CommandEntry kCommands[] = {
-    {u"list [--json]", u"the listed documents, newest first", true, R, listCommand},
+    {u"list [--json]", QT_TRANSLATE_NOOP("Tamo", "the listed documents, newest first"), true, R,
+     listCommand},
     {u"settings get KEY | set KEY VALUE | set prefsLogo --file IMAGE | list [--changed]",
-     u"list --changed: what differs from the starting values of the language set up", false, R,
-     settingsCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo", "list --changed: what differs from the starting values of the language set up"),
+     false, R, settingsCommand},
     {u"setup --language en|de|fr|es",
-     u"the starting values of a language, as the setup assistant's first page applies them", true,
-     W, setupCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "the starting values of a language, as the setup assistant's first page applies them"),
+     true, W, setupCommand},
     {u"generate-sample [--documents N] [--items-per-document M] [--clients K] [--seed S]", nullptr,
      true, W, generateSampleCommand},
-    {u"recalc", u"recalculates every document and prints the sums", true, W, recalcCommand},
+    {u"recalc", QT_TRANSLATE_NOOP("Tamo", "recalculates every document and prints the sums"), true,
+     W, recalcCommand},
     {u"next-number invoice|quote|client", nullptr, true, R, nextNumberCommand},
-    {u"backup-invoices FILE", u"XML property list, .tamoinvoices", true, R, backupInvoicesCommand},
+    {u"backup-invoices FILE", QT_TRANSLATE_NOOP("Tamo", "XML property list, .tamoinvoices"), true,
+     R, backupInvoicesCommand},
     {u"restore-invoices FILE", nullptr, true, W, restoreInvoicesCommand},
-    {u"backup-items FILE", u"XML property list, .tamoitems", true, R, backupItemsCommand},
+    {u"backup-items FILE", QT_TRANSLATE_NOOP("Tamo", "XML property list, .tamoitems"), true, R,
+     backupItemsCommand},
     {u"restore-items FILE", nullptr, true, W, restoreItemsCommand},
-    {u"export-xml FILE", u"every invoice", true, R, exportXmlCommand},
-    {u"export-shown-xml FILE [--filter TAG] [--search TEXT]", u"the listed invoices", true, R,
-     exportShownXmlCommand},
-    {u"backup-complete FILE", u"the store file, .tamo2db", true, R, backupCompleteCommand},
+    {u"export-xml FILE", QT_TRANSLATE_NOOP("Tamo", "every invoice"), true, R, exportXmlCommand},
+    {u"export-shown-xml FILE [--filter TAG] [--search TEXT]",
+     QT_TRANSLATE_NOOP("Tamo", "the listed invoices"), true, R, exportShownXmlCommand},
+    {u"backup-complete FILE", QT_TRANSLATE_NOOP("Tamo", "the store file, .tamo2db"), true, R,
+     backupCompleteCommand},
     {u"restore-complete FILE", nullptr, false, W, restoreCompleteCommand},
-    {u"dump FILE", u"keyed archive of every invoice, .invdump", true, R, dumpCommand},
-    {u"import-document FILE", u"a document file, .tamo", true, W, importDocumentCommand},
-    {u"export-raw FILE", u"a raw store copy, .sqlite", true, R, exportRawCommand},
+    {u"dump FILE", QT_TRANSLATE_NOOP("Tamo", "keyed archive of every invoice, .invdump"), true, R,
+     dumpCommand},
+    {u"import-document FILE", QT_TRANSLATE_NOOP("Tamo", "a document file, .tamo"), true, W,
+     importDocumentCommand},
+    {u"export-raw FILE", QT_TRANSLATE_NOOP("Tamo", "a raw store copy, .sqlite"), true, R,
+     exportRawCommand},
     {u"import-raw FILE", nullptr, true, W, importRawCommand},
     {u"move-from-flatpak", nullptr, false, W, moveFromFlatpakCommand},
     {u"move-store (DIR | --default) [--backup FILE]",
-     u"a complete backup (default: the documents folder), then the store moves to DIR", true, W,
-     moveStoreCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo", "a complete backup (default: the documents folder), then the store moves to DIR"),
+     true, W, moveStoreCommand},
     {u"safety-copy [--at-start]", nullptr, true, R, safetyCopyCommand},
     {u"restore-safety-copy", nullptr, true, W, restoreSafetyCopyCommand},
     {u"recover [COPY]",
-     u"without COPY: lists the recovery copies; COPY is a copy's number, file name or path", false,
-     W, recoverCommand},
-    {u"open FILE", u"answers as when the desktop opens a file: a design is offered for import",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "without COPY: lists the recovery copies; COPY is a copy's number, file name or path"),
+     false, W, recoverCommand},
+    {u"open FILE",
+     QT_TRANSLATE_NOOP("Tamo",
+                       "answers as when the desktop opens a file: a design is offered for import"),
      true, W, openFileCommand},
     {u"new-invoice", nullptr, true, W, newInvoiceCommand},
     {u"new-quote", nullptr, true, W, newQuoteCommand},
     {u"duplicate N [--with-items]", nullptr, true, W, duplicateCommand},
-    {u"convert N", u"a quote into an invoice", true, W, convertCommand},
+    {u"convert N", QT_TRANSLATE_NOOP("Tamo", "a quote into an invoice"), true, W, convertCommand},
     {u"delete N [--adjust-counter]", nullptr, true, W, deleteCommand},
     {u"set-status N STATUS [--paid-amount X]",
-     u"STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "STATUS: 0 created, 1 sent, 3 paid, 4 partially paid (overdue follows from the due date)"),
      true, W, setStatusCommand},
     {u"dispatch N", nullptr, true, W, dispatchCommand},
-    {u"filter TAG [--json]", u"0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent", true, R,
+    {u"filter TAG [--json]",
+     QT_TRANSLATE_NOOP("Tamo", "0 all, 1 open, 2 overdue, 3 paid, 4 quotes, 5-8 recent"), true, R,
      filterCommand},
     {u"add-item N --title TEXT --price X --quantity Y [--unit TEXT] [--sku TEXT] "
      u"[--subtitle TEXT] [--note TEXT] [--tax1] [--tax2] [--tax3]",
      nullptr, true, W, addItemCommand},
-    {u"set-client N (--vcard FILE [--index I] | --remembered ID)", u"I counts from 0", true, W,
-     setClientCommand},
+    {u"set-client N (--vcard FILE [--index I] | --remembered ID)",
+     QT_TRANSLATE_NOOP("Tamo", "I counts from 0"), true, W, setClientCommand},
     {u"set N KEY=VALUE ...",
-     u"the fields the editor shows: title, subject, date, due, texts, client, shipping, discount, "
-     u"e-invoice buyer; dates as 2026-03-05, percentages as 10",
+     QT_TRANSLATE_NOOP("Tamo",
+                       "the fields the editor shows: title, subject, date, due, texts, client, "
+                       "shipping, discount, "
+                       "e-invoice buyer; dates as 2026-03-05, percentages as 10"),
      true, W, setCommand},
-    {u"lines N", u"the document's lines, numbered as edit-line and delete-line take them", true, R,
-     linesCommand},
+    {u"lines N",
+     QT_TRANSLATE_NOOP("Tamo",
+                       "the document's lines, numbered as edit-line and delete-line take them"),
+     true, R, linesCommand},
     {u"edit-line N LINE KEY=VALUE ...",
-     u"KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)", true,
-     W, editLineCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "KEY: title, subtitle, unit, sku, note, price, quantity, tax1, tax2, tax3 (yes or no)"),
+     true, W, editLineCommand},
     {u"delete-line N LINE", nullptr, true, W, deleteLineCommand},
     {u"einvoice N FILE [--force] [--conformant] [--standard]",
-     u"XRechnung XML of document N, after the readiness check; --conformant writes the file the "
-     u"EN 16931 rules require (default: setting prefsEvoiceConformantBool)",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "XRechnung XML of document N, after the readiness check; --conformant writes the file the "
+         "EN 16931 rules require (default: setting prefsEvoiceConformantBool)"),
      true, W, einvoiceCommand},
     {u"einvoice-check N [--conformant] [--standard] [--json]",
-     u"readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing fatal remains",
+     QT_TRANSLATE_NOOP("Tamo",
+                       "readiness, then the EN 16931 and XRechnung rules; exit 0 only when nothing "
+                       "fatal remains"),
      true, R, einvoiceCheckCommand},
     {u"einvoice-details N [KEY=VALUE ...]", nullptr, true, W, einvoiceDetailsCommand},
     {u"einvoice-notice", nullptr, false, R, einvoiceNoticeCommand},
     {u"render N (--html FILE|- | --pdf FILE) [--reminder | --slip] [--design INDEX|TITLE]", nullptr,
      true, R, renderCommand},
-    {u"export-pdfs DIR [--filter TAG] [--search TEXT]", u"every listed document, DIR/NUMBER_N.pdf",
-     true, R, exportPdfsCommand},
+    {u"export-pdfs DIR [--filter TAG] [--search TEXT]",
+     QT_TRANSLATE_NOOP("Tamo", "every listed document, DIR/NUMBER_N.pdf"), true, R,
+     exportPdfsCommand},
     {u"designs list | add | import FILE | export INDEX FILE | default INDEX | select INDEX | "
      u"delete INDEX",
      nullptr, true, Access::ListReads, designsCommand},
@@ -236,27 +267,37 @@ const CommandEntry kCommands[] = {
      Access::ListReads, templatesCommand},
     {u"report [--from DATE --to DATE] [--filter TAG] [--search TEXT] (--html FILE|- | --pdf FILE "
      u"| --json)",
-     u"the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00", true, R,
-     reportCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo", "the sales report of the listed invoices; DATE is 2026-03-01 or 2026-03-01T12:00"),
+     true, R, reportCommand},
     {u"account-book [--filter TAG] [--search TEXT] --pdf FILE",
-     u"every listed document, oldest first, as PDF", true, R, accountBookCommand},
+     QT_TRANSLATE_NOOP("Tamo", "every listed document, oldest first, as PDF"), true, R,
+     accountBookCommand},
     {u"print N [--printer NAME]",
-     u"prints document N on the default printer or NAME; marks an invoice as sent when "
-     u"markInvoiceAsSent is on",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "prints document N on the default printer or NAME; marks an invoice as sent when "
+         "markInvoiceAsSent is on"),
      true, W, printCommand},
-    {u"pdf N FILE", u"document N as PDF file; marks an invoice as sent as print does", true, W,
-     pdfCommand},
+    {u"pdf N FILE",
+     QT_TRANSLATE_NOOP("Tamo", "document N as PDF file; marks an invoice as sent as print does"),
+     true, W, pdfCommand},
     {u"mail N [--einvoice]",
-     u"a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after "
-     u"its checks; marks an invoice as sent as print does",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "a new message in the mail client (xdg-email) with the PDF, or with the e-invoice after "
+         "its checks; marks an invoice as sent as print does"),
      true, W, mailCommand},
     {u"export-document N FILE [--xml]",
-     u"document file that import-document reads (.tamo), or its XML property list", true, W,
-     exportDocumentCommand},
+     QT_TRANSLATE_NOOP(
+         "Tamo", "document file that import-document reads (.tamo), or its XML property list"),
+     true, W, exportDocumentCommand},
     {u"send-to ledrix|kelvane [--from DATE] [--to DATE] [--kind 0|1|2] [--items] [--no-open]",
-     u"the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or "
-     u".kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items "
-     u"keeps each invoice's lines instead of one summary; prints the file's path",
+     QT_TRANSLATE_NOOP(
+         "Tamo",
+         "the invoices of the range (default: every listed one) as kelvaneExport.ldxtamo or "
+         ".kelvtamo, handed to the desktop; kind 0 every sent invoice, 1 paid, 2 overdue; --items "
+         "keeps each invoice's lines instead of one summary; prints the file's path"),
      true, W, sendToCommand},
 };
 
@@ -276,7 +317,7 @@ bool takeGlobalOption(Invocation& inv, const QStringList& arguments, int& i)
     const QString& a = arguments[i];
     if (a == u"--store") {
         if (i + 1 >= arguments.size()) {
-            inv.error = QStringLiteral("--store needs a folder");
+            inv.error = tr("--store needs a folder");
         } else {
             inv.storeDirectory = arguments[++i];
         }
@@ -297,16 +338,18 @@ bool takeGlobalOption(Invocation& inv, const QStringList& arguments, int& i)
 
 QString usage()
 {
-    QString text = QStringLiteral(
-        "usage: tamo [--store DIR] [--yes] [COMMAND ...]\n"
-        "  Without a command, opens the window (or brings the one open on the store forward).\n"
-        "  Options may stand anywhere; \"--\" ends them.\n"
-        "  tamo [--store DIR] tamo://…  hands a request to the window, or answers it without one\n"
-        "  tamo [--store DIR] FILE      asks the window to open FILE, as the desktop does\n"
-        "  --store DIR   keep store, settings and data files in DIR\n"
-        "  --yes         answer questions with their default button\n"
-        "  COMMAND --help, or tamo help COMMAND, tells more of one command.\n"
-        "commands:\n");
+    QString text = tr("usage: tamo %1").arg(u"[--store DIR] [--yes] [COMMAND ...]"_qs) + u'\n' +
+                   tr("  Without a command, opens the window (or brings the one open on the store "
+                      "forward).\n"
+                      "  Options may stand anywhere; \"--\" ends them.\n"
+                      "  tamo [--store DIR] tamo://…  hands a request to the window, or answers "
+                      "it without one\n"
+                      "  tamo [--store DIR] FILE      asks the window to open FILE, as the "
+                      "desktop does\n"
+                      "  --store DIR   keep store, settings and data files in DIR\n"
+                      "  --yes         answer questions with their default button\n"
+                      "  COMMAND --help, or tamo help COMMAND, tells more of one command.\n"
+                      "commands:\n");
     for (const CommandEntry& entry : kCommands) {
         text += QStringLiteral("  %1\n").arg(entry.text());
     }
@@ -319,9 +362,9 @@ QString commandHelp(const QString& name)
     if (!entry) {
         return QString();
     }
-    QString text = QStringLiteral("usage: tamo %1\n").arg(entry->text());
+    QString text = tr("usage: tamo %1").arg(entry->text()) + u'\n';
     if (entry->note) {
-        text += QStringLiteral("  %1\n").arg(QString::fromUtf16(entry->note));
+        text += QStringLiteral("  %1\n").arg(tr(entry->note));
     }
     return text;
 }
@@ -392,7 +435,7 @@ int runCommand(const Invocation& inv, QTextStream& out, QTextStream& err)
     }
     const CommandEntry* command = findCommand(name);
     if (!command) {
-        return report(QStringLiteral("unknown command \"%1\"\n%2").arg(name, usage()), kUsageError);
+        return report(tr("unknown command \"%1\"").arg(name) + u'\n' + usage(), kUsageError);
     }
     const qsizetype end = args.indexOf(u"--"_qs);
     const QStringList options = end < 0 ? args : args.first(end);
@@ -452,9 +495,7 @@ int runOnSession(const Invocation& inv, QTextStream& out, QTextStream& err, cons
             return 1;  // the prompter has said why
         }
         if (!readsOnly && context->isReadOnly()) {
-            return report(QCoreApplication::translate("tamo::Cli",
-                                                      "the store “%1” may only be read: %2 "
-                                                      "“%3” would change it.")
+            return report(tr("the store “%1” may only be read: %2 “%3” would change it.")
                               .arg(context->path(), session.readOnlyReason(), use.name),
                           1);
         }

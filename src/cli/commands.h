@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "cli/commandargs.h"
+#include "platform/translations.h"
 
 namespace tamo {
 

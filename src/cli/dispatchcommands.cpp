@@ -60,7 +60,8 @@ public:
     void print(QTextStream& out) const
     {
         if (before_ == 0 && status() > 0) {
-            out << session_.documents().current()->string("number") << " is marked as sent\n";
+            out << tr("%1 is marked as sent").arg(session_.documents().current()->string("number"))
+                << '\n';
         }
     }
 
@@ -108,7 +109,7 @@ std::optional<Failure> runExport(AppSession& session, const CommandArgs& args, E
     parts.sent.emplace(session);
     Dispatch& dispatch = parts.dispatch;
     if (!dispatch.beginExport(kind)) {
-        return parts.prompter.failure(u"nothing was exported"_qs);
+        return parts.prompter.failure(tr("nothing was exported"));
     }
     // The document file needs no page.
     if (kind != ExportKind::DocumentFile) {
@@ -120,11 +121,11 @@ std::optional<Failure> runExport(AppSession& session, const CommandArgs& args, E
     case ActionResult::Done:
         return std::nullopt;
     case ActionResult::Cancelled:
-        return Failure{QStringLiteral("%1: nothing was written").arg(args.operand(0))};
+        return Failure{tr("%1: nothing was written").arg(args.operand(0))};
     case ActionResult::Failed:
         break;
     }
-    return parts.prompter.failure(u"the export failed"_qs);
+    return parts.prompter.failure(tr("the export failed"));
 }
 
 }  // namespace
@@ -139,7 +140,7 @@ std::optional<Failure> printCommand(AppSession& session, const CommandArgs& args
     if (auto failure = runExport(session, args, ExportKind::Print, parts)) {
         return failure;
     }
-    out << "Printed " << session.settings().string(key::currentPrintJobTitle) << '\n';
+    out << tr("Printed %1").arg(session.settings().string(key::currentPrintJobTitle)) << '\n';
     parts.sent->print(out);
     return std::nullopt;
 }
@@ -153,7 +154,7 @@ std::optional<Failure> pdfCommand(AppSession& session, const CommandArgs& args, 
     if (auto failure = runExport(session, args, ExportKind::PdfFile, parts)) {
         return failure;
     }
-    out << "Wrote " << QFileInfo(args.operand(1)).absoluteFilePath() << '\n';
+    out << tr("Wrote %1").arg(QFileInfo(args.operand(1)).absoluteFilePath()) << '\n';
     parts.sent->print(out);
     return std::nullopt;
 }
@@ -168,7 +169,7 @@ std::optional<Failure> mailCommand(AppSession& session, const CommandArgs& args,
         if (auto failure = runExport(session, args, ExportKind::PdfMail, parts)) {
             return failure;
         }
-        out << "Handed " << parts.dispatch.pdfEmailPath() << " to the mail client\n";
+        out << tr("Handed %1 to the mail client").arg(parts.dispatch.pdfEmailPath()) << '\n';
         parts.sent->print(out);
         return std::nullopt;
     }
@@ -183,9 +184,9 @@ std::optional<Failure> mailCommand(AppSession& session, const CommandArgs& args,
         return refused;
     }
     if (parts.dispatch.mailEvoiceAction(options) != ActionResult::Done) {
-        return parts.prompter.failure(u"the e-invoice was not mailed"_qs);
+        return parts.prompter.failure(tr("the e-invoice was not mailed"));
     }
-    out << "Handed " << parts.dispatch.evoiceXMLPath() << " to the mail client\n";
+    out << tr("Handed %1 to the mail client").arg(parts.dispatch.evoiceXMLPath()) << '\n';
     parts.sent->print(out);
     return std::nullopt;
 }
@@ -203,7 +204,7 @@ std::optional<Failure> exportDocumentCommand(AppSession& session, const CommandA
     if (auto failure = runExport(session, args, ExportKind::DocumentFile, parts)) {
         return failure;
     }
-    out << "Wrote " << QFileInfo(args.operand(1)).absoluteFilePath() << '\n';
+    out << tr("Wrote %1").arg(QFileInfo(args.operand(1)).absoluteFilePath()) << '\n';
     parts.sent->print(out);
     return std::nullopt;
 }

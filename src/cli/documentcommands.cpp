@@ -15,8 +15,7 @@ namespace {
 
 QString describe(const Record* d)
 {
-    const QString kind =
-        d->integer("kind") == 0 ? QStringLiteral("quote") : QStringLiteral("invoice");
+    const QString kind = d->integer("kind") == 0 ? tr("quote") : tr("invoice");
     const QString number = d->string("number");
     return number.isEmpty() ? QStringLiteral("%1 %2").arg(kind, d->uniqueID())
                             : QStringLiteral("%1 %2 (%3)").arg(kind, number, d->uniqueID());
@@ -39,7 +38,7 @@ std::optional<Failure> create(AppSession& session, const CommandArgs& args, QTex
     }
     DocumentLifecycle lifecycle(session);
     Record* d = invoice ? lifecycle.addInvoice() : lifecycle.addQuote();
-    out << "Created " << describe(d) << '\n';
+    out << tr("Created %1").arg(describe(d)) << '\n';
     return std::nullopt;
 }
 
@@ -66,7 +65,7 @@ std::optional<Failure> duplicateCommand(AppSession& session, const CommandArgs& 
         return source.error();
     }
     Record* copy = DocumentLifecycle(session).duplicateInvoice(withItems);
-    out << "Created " << describe(copy) << " as a copy of " << describe(*source) << '\n';
+    out << tr("Created %1 as a copy of %2").arg(describe(copy), describe(*source)) << '\n';
     return std::nullopt;
 }
 
@@ -78,9 +77,9 @@ std::optional<Failure> convertCommand(AppSession& session, const CommandArgs& ar
         return d.error();
     }
     if (!DocumentLifecycle(session).convertQuoteToInvoice()) {
-        return Failure{QStringLiteral("%1 was not converted").arg(describe(*d))};
+        return Failure{tr("%1 was not converted").arg(describe(*d))};
     }
-    out << "Converted into " << describe(*d) << '\n';
+    out << tr("Converted into %1").arg(describe(*d)) << '\n';
     return std::nullopt;
 }
 
@@ -92,13 +91,13 @@ std::optional<Failure> deleteCommand(AppSession& session, const CommandArgs& arg
         return d.error();
     }
     if (auto* console = dynamic_cast<ConsolePrompter*>(&session.prompter())) {
-        console->presetAnswer(u"Adjust Counter"_qs, adjust ? u"Adjust Counter"_qs : u"Cancel"_qs);
+        console->presetAnswer(tr("Adjust Counter"), adjust ? tr("Adjust Counter") : tr("Cancel"));
     }
     const QString what = describe(*d);
     if (!DocumentLifecycle(session).deleteInvoice()) {
-        return Failure{QStringLiteral("%1 was not deleted").arg(what)};
+        return Failure{tr("%1 was not deleted").arg(what)};
     }
-    out << "Deleted " << what << '\n';
+    out << tr("Deleted %1").arg(what) << '\n';
     return std::nullopt;
 }
 
@@ -109,15 +108,15 @@ std::optional<Failure> setStatusCommand(AppSession& session, const CommandArgs& 
     const int status = args.operand(1).toInt(&ok);
     // As in the window: overdue follows from the due date, never from a choice.
     if (args.operandCount() == 2 && (!ok || status < 0 || status > 4 || status == 2)) {
-        return args.usage(QStringLiteral("the status is 0, 1, 3 or 4 (overdue follows from the "
-                                         "due date), not %1")
+        return args.usage(tr("the status is 0, 1, 3 or 4 (overdue follows from the due date), "
+                             "not %1")
                               .arg(args.operand(1)));
     }
     std::optional<double> paid;
     if (args.has(u"--paid-amount"_qs)) {
         paid = QLocale::c().toDouble(args.value(u"--paid-amount"_qs), &ok);
         if (!ok) {
-            return args.usage(u"--paid-amount needs a number such as 120.50"_qs);
+            return args.usage(tr("%1 needs a number such as 120.50").arg(u"--paid-amount"_qs));
         }
         if (const auto checked = checkedAmount(*paid); !checked) {
             return Failure{QStringLiteral("set-status: %1").arg(checked.error())};
@@ -128,14 +127,14 @@ std::optional<Failure> setStatusCommand(AppSession& session, const CommandArgs& 
         return d.error();
     }
     {
-        UndoGroup group(*session.context(), u"Set Status"_qs);
+        UndoGroup group(*session.context(), tr("Set Status"));
         (*d)->setValue("status", status);
         if (paid) {
             (*d)->setValue("paidAmount", *paid);
         }
         Totals(session).calculateInvoice(**d);
     }
-    out << describe(*d) << ": status " << status << '\n';
+    out << tr("%1: status %2").arg(describe(*d)).arg(status) << '\n';
     return std::nullopt;
 }
 
@@ -147,7 +146,8 @@ std::optional<Failure> dispatchCommand(AppSession& session, const CommandArgs& a
         return d.error();
     }
     DocumentLifecycle(session).setDispatched();
-    out << describe(*d) << ": delivered " << (*d)->date("dispatched").toString(Qt::ISODate) << '\n';
+    out << tr("%1: delivered %2").arg(describe(*d), (*d)->date("dispatched").toString(Qt::ISODate))
+        << '\n';
     return std::nullopt;
 }
 
@@ -156,7 +156,7 @@ std::optional<Failure> filterCommand(AppSession& session, const CommandArgs& arg
     bool ok = false;
     const int tag = args.operand(0).toInt(&ok);
     if (args.operandCount() != 1 || !ok || tag < 0 || tag > 8) {
-        return args.usage(u"TAG is a number from 0 to 8"_qs);
+        return args.usage(tr("TAG is a number from 0 to 8"));
     }
     DocumentLifecycle(session).selectFilter(tag);
     printDocumentList(session, args.has(u"--json"_qs), out);

@@ -10,13 +10,12 @@ std::expected<Record*, Failure> findDocument(AppSession& session, const QString&
         return r.uniqueID() == numberOrID || r.string("number") == numberOrID;
     });
     if (matches.empty()) {
-        return std::unexpected(Failure{QStringLiteral("there is no document %1").arg(numberOrID)});
+        return std::unexpected(Failure{tr("there is no document %1").arg(numberOrID)});
     }
     if (matches.size() > 1) {
-        return std::unexpected(
-            Failure{QStringLiteral("%1 documents are numbered %2; name one by its uniqueID")
-                        .arg(matches.size())
-                        .arg(numberOrID)});
+        return std::unexpected(Failure{tr("%1 documents are numbered %2; name one by its uniqueID")
+                                           .arg(matches.size())
+                                           .arg(numberOrID)});
     }
     return matches.front();
 }
@@ -36,7 +35,7 @@ std::optional<Failure> arrangeList(AppSession& session, const CommandArgs& args)
         bool ok = false;
         const int tag = args.value(u"--filter"_qs).toInt(&ok);
         if (!ok || tag < 0 || tag > 8) {
-            return args.usage(u"TAG is a number from 0 to 8"_qs);
+            return args.usage(tr("TAG is a number from 0 to 8"));
         }
         DocumentLifecycle(session).selectFilter(tag);
     }

@@ -25,17 +25,17 @@ QString kindName(FieldKind kind)
 {
     switch (kind) {
     case FieldKind::Text:
-        return QStringLiteral("text");
+        return tr("text");
     case FieldKind::Date:
-        return QStringLiteral("date such as 2026-03-05");
+        return tr("date such as 2026-03-05");
     case FieldKind::Money:
-        return QStringLiteral("amount such as 1234.50");
+        return tr("amount such as 1234.50");
     case FieldKind::Percent:
-        return QStringLiteral("percentage such as 10");
+        return tr("percentage such as 10");
     case FieldKind::Flag:
-        return QStringLiteral("yes or no");
+        return tr("yes or no");
     case FieldKind::Choice:
-        return QStringLiteral("choice");
+        return tr("choice");
     }
     return {};
 }
@@ -52,9 +52,7 @@ std::optional<std::pair<QString, QString>> assignment(const QString& word)
 
 QString sentRefusal(const Record& document, const QString& command)
 {
-    return QStringLiteral(
-               "%1: %2 is marked as already sent; set its status back to 0 (created) "
-               "first")
+    return tr("%1: %2 is marked as already sent; set its status back to 0 (created) first")
         .arg(command, documentName(document));
 }
 
@@ -84,13 +82,13 @@ std::optional<Failure> setCommand(AppSession& session, const CommandArgs& args, 
             for (const DocumentField& f : documentFields()) {
                 keys << QString::fromLatin1(f.key);
             }
-            return args.usage(QStringLiteral("there is no field %1; the fields are %2")
-                                  .arg(pair->first, keys.join(u", ")));
+            return args.usage(
+                tr("there is no field %1; the fields are %2").arg(pair->first, keys.join(u", ")));
         }
         const std::optional<Value> value = fieldValueFromText(*field, d, pair->second);
         if (!value) {
-            return args.usage(QStringLiteral("%1 is not a %2 for %3")
-                                  .arg(pair->second, kindName(field->kind), pair->first));
+            return args.usage(
+                tr("%1 is not a %2 for %3").arg(pair->second, kindName(field->kind), pair->first));
         }
         locked = locked || field->lockedWhenSent;
         changes.emplace_back(field, *value);
@@ -120,10 +118,12 @@ std::optional<Failure> setCommand(AppSession& session, const CommandArgs& args, 
         lines.closeDiscountPopover();
     }
     if (changed.isEmpty()) {
-        out << documentName(d) << ": nothing changed\n";
+        out << tr("%1: nothing changed").arg(documentName(d)) << '\n';
     } else {
-        out << documentName(d) << ": changed " << changed.join(u", ") << "; its total is now "
-            << QLocale::c().toString(d.decimal("amount"), 'f', 2) << '\n';
+        out << tr("%1: changed %2; its total is now %3")
+                   .arg(documentName(d), changed.join(u", "),
+                        QLocale::c().toString(d.decimal("amount"), 'f', 2))
+            << '\n';
     }
     return std::nullopt;
 }
@@ -172,8 +172,8 @@ std::expected<std::pair<Record*, Record*>, Failure> findLine(AppSession& session
     bool ok = false;
     const int position = args.operand(1).toInt(&ok);
     if (!ok || position < 1 || position > int(lines.size())) {
-        return std::unexpected(Failure{QStringLiteral("%1 has %2 lines; LINE counts them from 1 "
-                                                      "as `tamo lines` lists them")
+        return std::unexpected(Failure{tr("%1 has %2 lines; LINE counts them from 1 as `tamo "
+                                          "lines` lists them")
                                            .arg(documentName(**document))
                                            .arg(lines.size())});
     }
@@ -222,7 +222,7 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
         for (const auto& [name, member] : taxes) {
             if (key == QStringView(name)) {
                 if (text != u"yes" && text != u"no") {
-                    return args.usage(QStringLiteral("%1 is yes or no").arg(key));
+                    return args.usage(tr("%1 is yes or no").arg(key));
                 }
                 (*fields).*member = text == u"yes";
                 known = true;
@@ -237,9 +237,8 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
             known = true;
         }
         if (!known) {
-            return args.usage(QStringLiteral("there is no line field %1; the fields are title, "
-                                             "subtitle, unit, sku, note, price, quantity, tax1, "
-                                             "tax2, tax3")
+            return args.usage(tr("there is no line field %1; the fields are title, subtitle, "
+                                 "unit, sku, note, price, quantity, tax1, tax2, tax3")
                                   .arg(key));
         }
     }
@@ -247,9 +246,10 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
         return Failure{QStringLiteral("edit-line: %1").arg(checked.error())};
     }
     lines.editItem(line, *fields);
-    out << QStringLiteral("Changed \"%1\" of %2; its total is now %3\n")
+    out << tr("Changed \"%1\" of %2; its total is now %3")
                .arg(line->string("title"), documentName(*document),
-                    QLocale::c().toString(document->decimal("amount"), 'f', 2));
+                    QLocale::c().toString(document->decimal("amount"), 'f', 2))
+        << '\n';
     return std::nullopt;
 }
 
@@ -270,13 +270,14 @@ std::optional<Failure> deleteLineCommand(AppSession& session, const CommandArgs&
         return Failure{sentRefusal(*document, u"delete-line"_qs)};
     }
     if (!LineItems(session).deleteItem(line)) {
-        return Failure{QStringLiteral("delete-line: \"%1\" was not deleted (questions are "
-                                      "answered only with --yes)")
+        return Failure{tr("delete-line: \"%1\" was not deleted (questions are answered only "
+                          "with --yes)")
                            .arg(title)};
     }
-    out << QStringLiteral("Deleted \"%1\" from %2; its total is now %3\n")
+    out << tr("Deleted \"%1\" from %2; its total is now %3")
                .arg(title, documentName(*document),
-                    QLocale::c().toString(document->decimal("amount"), 'f', 2));
+                    QLocale::c().toString(document->decimal("amount"), 'f', 2))
+        << '\n';
     return std::nullopt;
 }
 

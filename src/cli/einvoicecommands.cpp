@@ -15,8 +15,8 @@ namespace {
 
 Failure alreadySent(const QString& document)
 {
-    return Failure{QStringLiteral("%1 is marked as already sent; set its status back to Created "
-                                  "to change or export it again")
+    return Failure{tr("%1 is marked as already sent; set its status back to Created to change or "
+                      "export it again")
                        .arg(document)};
 }
 
@@ -39,11 +39,11 @@ QString severityText(const Finding& finding)
 
 void printFindings(const EinvoiceCheck& check, QTextStream& out)
 {
-    out << (check.readiness.possible() ? u"possible"_qs
-                                       : u"not possible: "_qs + check.readiness.reason())
+    out << (check.readiness.possible() ? tr("possible")
+                                       : tr("not possible: %1").arg(check.readiness.reason()))
         << '\n';
     for (const Finding& f : check.findings) {
-        out << f.rule << ' ' << severityText(f) << ": " << f.message;
+        out << f.rule << ' ' << (f.fatal() ? tr("fatal") : tr("warning")) << ": " << f.message;
         if (const QString where = einvoiceFieldLabel(f.field); !where.isEmpty()) {
             out << " [" << where << ']';
         }
@@ -52,10 +52,11 @@ void printFindings(const EinvoiceCheck& check, QTextStream& out)
     const auto fatal = std::count_if(check.findings.begin(), check.findings.end(),
                                      [](const Finding& f) { return f.fatal(); });
     if (fatal == 0) {
-        out << "passes the EN 16931 and XRechnung rules\n";
+        out << tr("passes the EN 16931 and XRechnung rules") << '\n';
     } else {
-        out << fatal
-            << " fatal finding(s): the recipient's validator will likely reject the file\n";
+        out << tr("%n fatal finding(s): the recipient's validator will likely reject the file",
+                  nullptr, int(fatal))
+            << '\n';
     }
 }
 
@@ -80,11 +81,12 @@ std::optional<Failure> einvoiceGate(EinvoiceActions& actions, const QString& doc
                                     const EinvoiceOptions& options, bool force, QTextStream& out)
 {
     if (force) {
-        out << "Skipped the e-invoice readiness check (--force); the file may lack required "
-               "values.\n";
+        out << tr("Skipped the e-invoice readiness check (--force); the file may lack required "
+                  "values.")
+            << '\n';
     } else if (const Readiness readiness = actions.isEvoiceActionPossible();
                !readiness.possible()) {
-        return Failure{QStringLiteral("no e-invoice for %1: %2 (see einvoice-details, settings)")
+        return Failure{tr("no e-invoice for %1: %2 (see einvoice-details, settings)")
                            .arg(document, readiness.reason())};
     }
     if (actions.isCurrentInvoiceSent()) {
@@ -95,14 +97,14 @@ std::optional<Failure> einvoiceGate(EinvoiceActions& actions, const QString& doc
             std::find_if(findings.begin(), findings.end(),
                          [](const Finding& f) { return f.rule == u"TAMO-CONFORMANT"; });
         refused != findings.end()) {
-        return Failure{
-            QStringLiteral("no conformant e-invoice for %1: %2").arg(document, refused->message)};
+        return Failure{tr("no conformant e-invoice for %1: %2").arg(document, refused->message)};
     }
     if (hasFatal(findings)) {
         // Scripts keep their exports; einvoice-check is the gate that fails.
-        out << "Warning: this e-invoice will likely be rejected: it breaks rules the recipient's "
-               "validator checks (see einvoice-check "
-            << document << ").\n";
+        out << tr("Warning: this e-invoice will likely be rejected: it breaks rules the "
+                  "recipient's validator checks (see einvoice-check %1).")
+                   .arg(document)
+            << '\n';
     }
     return std::nullopt;
 }
@@ -129,7 +131,7 @@ std::optional<Failure> einvoiceCommand(AppSession& session, const CommandArgs& a
     if (auto written = actions.writeEvoiceXML(path, options); !written) {
         return Failure{written.error().text()};  // the store is not saved: nothing is marked
     }
-    out << "Wrote " << path << '\n';
+    out << tr("Wrote %1").arg(path) << '\n';
     return std::nullopt;
 }
 
@@ -150,11 +152,10 @@ std::optional<Failure> einvoiceCheckCommand(AppSession& session, const CommandAr
         printFindings(check, out);
     }
     if (!check.readiness.possible()) {
-        return Failure{QStringLiteral("%1 cannot become an e-invoice yet").arg(args.operand(0))};
+        return Failure{tr("%1 cannot become an e-invoice yet").arg(args.operand(0))};
     }
     if (!check.passes()) {
-        return Failure{
-            QStringLiteral("%1 breaks rules of EN 16931 or XRechnung").arg(args.operand(0))};
+        return Failure{tr("%1 breaks rules of EN 16931 or XRechnung").arg(args.operand(0))};
     }
     return std::nullopt;
 }
@@ -167,9 +168,7 @@ std::optional<Failure> einvoiceDetailsCommand(AppSession& session, const Command
     for (const EvoiceField& field : fields) {
         keys << QString::fromLatin1(field.key);
     }
-    const auto usage = [&] {
-        return args.usage(QStringLiteral("KEY is one of %1").arg(keys.join(u", ")));
-    };
+    const auto usage = [&] { return args.usage(tr("KEY is one of %1").arg(keys.join(u", "))); };
     if (args.operandCount() == 0) {
         return usage();
     }

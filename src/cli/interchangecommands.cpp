@@ -21,9 +21,8 @@ std::optional<Failure> outcome(ActionResult result, const QString& name)
     case ActionResult::Done:
         return std::nullopt;
     case ActionResult::Cancelled:
-        return Failure{QStringLiteral("%1: nothing was changed (questions are answered only with "
-                                      "--yes)")
-                           .arg(name)};
+        return Failure{
+            tr("%1: nothing was changed (questions are answered only with --yes)").arg(name)};
     case ActionResult::Failed:
         break;
     }
@@ -134,7 +133,7 @@ std::optional<Failure> safetyCopyCommand(AppSession& session, const CommandArgs&
     DataInterchange operations(session);
     const ActionResult result = atStart ? operations.createBackup() : operations.doTheNewBackup();
     if (result == ActionResult::Cancelled) {
-        out << "No safety copy was written at this start.\n";
+        out << tr("No safety copy was written at this start.") << '\n';
         return std::nullopt;
     }
     if (result == ActionResult::Done) {
@@ -197,20 +196,20 @@ std::optional<Failure> moveStoreCommand(AppSession& session, const CommandArgs& 
     StoreMover mover(session);
     switch (mover.moveTo(toDefault ? QString() : args.operand(0))) {
     case StoreMove::Moved:
-        out << QStringLiteral(
-                   "Backed up the database to %1.\nMoved the store to %2; Tamo opens it "
-                   "there from now on.\n")
-                   .arg(kept, mover.currentFolder());
+        out << tr("Backed up the database to %1.\nMoved the store to %2; Tamo opens it there "
+                  "from now on.")
+                   .arg(kept, mover.currentFolder())
+            << '\n';
         return std::nullopt;
     case StoreMove::AlreadyThere:
-        out << QStringLiteral("The store is already in %1.\n").arg(mover.currentFolder());
+        out << tr("The store is already in %1.").arg(mover.currentFolder()) << '\n';
         return std::nullopt;
     case StoreMove::Cancelled:
         return outcome(ActionResult::Cancelled, u"move-store"_qs);
     case StoreMove::Failed:
         break;
     }
-    return Failure{QStringLiteral("move-store: the store stays in %1").arg(mover.currentFolder())};
+    return Failure{tr("move-store: the store stays in %1").arg(mover.currentFolder())};
 }
 
 }  // namespace tamo

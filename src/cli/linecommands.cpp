@@ -29,7 +29,7 @@ std::optional<Failure> addItemCommand(AppSession& session, const CommandArgs& ar
     const double price = c.toDouble(args.value(u"--price"_qs), &priceOk);
     const double quantity = c.toDouble(args.value(u"--quantity"_qs), &quantityOk);
     if (!priceOk || !quantityOk) {
-        return args.usage(u"--price and --quantity need numbers such as 12.50"_qs);
+        return args.usage(tr("--price and --quantity need numbers such as 12.50"));
     }
     if (const auto checked = checkedLine(price, quantity); !checked) {
         return Failure{QStringLiteral("add-item: %1").arg(checked.error())};
@@ -42,7 +42,7 @@ std::optional<Failure> addItemCommand(AppSession& session, const CommandArgs& ar
     LineItems items(session);
     std::optional<LineFields> fields = items.showItemPopover();
     if (!fields) {
-        return Failure{QStringLiteral("add-item: %1 was left as it is").arg(name)};
+        return Failure{tr("add-item: %1 was left as it is").arg(name)};
     }
     fields->title = args.value(u"--title"_qs);
     fields->subtitle = args.value(u"--subtitle"_qs);
@@ -55,9 +55,10 @@ std::optional<Failure> addItemCommand(AppSession& session, const CommandArgs& ar
     fields->tax2 = args.has(u"--tax2"_qs);
     fields->tax3 = args.has(u"--tax3"_qs);
     const Record* line = items.addItem(*fields);
-    out << QStringLiteral("Added \"%1\" (%2 x %3) to %4; its total is now %5\n")
+    out << tr("Added \"%1\" (%2 x %3) to %4; its total is now %5")
                .arg(line->string("title"), c.toString(quantity), c.toString(price),
-                    documentName(**document), c.toString((*document)->decimal("amount"), 'f', 2));
+                    documentName(**document), c.toString((*document)->decimal("amount"), 'f', 2))
+        << '\n';
     return std::nullopt;
 }
 
@@ -73,12 +74,12 @@ std::optional<Failure> setClientCommand(AppSession& session, const CommandArgs& 
         return document.error();
     }
     Clients clients(session);
-    const QString left = QStringLiteral("set-client: %1 was left as it is").arg(name);
+    const QString left = tr("set-client: %1 was left as it is").arg(name);
     if (args.has(u"--remembered"_qs)) {
         const QString id = args.value(u"--remembered"_qs);
         const Record* client = session.context()->findByUniqueID("Address", id);
         if (!client) {
-            return Failure{QStringLiteral("there is no remembered client %1").arg(id)};
+            return Failure{tr("there is no remembered client %1").arg(id)};
         }
         // No address book is involved in taking a remembered client.
         if (!clients.showAddressPopover(ContactBook{}, QString())) {
@@ -89,12 +90,12 @@ std::optional<Failure> setClientCommand(AppSession& session, const CommandArgs& 
         const QString file = args.value(u"--vcard"_qs);
         const ContactBook book = ContactBook::load(file);
         if (!book.unreadableFiles.isEmpty()) {
-            return Failure{QStringLiteral("cannot read %1").arg(book.unreadableFiles.join(u", "))};
+            return Failure{tr("cannot read %1").arg(book.unreadableFiles.join(u", "))};
         }
         bool ok = true;
         const int index = args.has(u"--index"_qs) ? args.value(u"--index"_qs).toInt(&ok) : 0;
         if (!ok || index < 0 || index >= book.contacts.size()) {
-            return Failure{QStringLiteral("%1 has %2 contacts; --index counts them from 0")
+            return Failure{tr("%1 has %2 contacts; --index counts them from 0")
                                .arg(file)
                                .arg(book.contacts.size())};
         }
@@ -103,8 +104,9 @@ std::optional<Failure> setClientCommand(AppSession& session, const CommandArgs& 
         }
         clients.selectAddress(clients.selectAddressRecord(book.contacts[index]));
     }
-    out << QStringLiteral("The client of %1 is now %2\n")
-               .arg(documentName(**document), (*document)->string("address").section(u'\n', 0, 0));
+    out << tr("The client of %1 is now %2")
+               .arg(documentName(**document), (*document)->string("address").section(u'\n', 0, 0))
+        << '\n';
     return std::nullopt;
 }
 

@@ -30,8 +30,7 @@ std::expected<int, Failure> designIndex(DesignLibrary& designs, const QString& n
             return int(i);
         }
     }
-    return std::unexpected(
-        Failure{QStringLiteral("there is no design %1 (see designs list)").arg(name)});
+    return std::unexpected(Failure{tr("there is no design %1 (see designs list)").arg(name)});
 }
 
 }  // namespace
@@ -88,7 +87,7 @@ std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& arg
         if (auto written = writeFileAtomically(html, page.toUtf8()); !written) {
             return Failure{written.error().text()};
         }
-        out << "Wrote " << QFileInfo(html).absoluteFilePath() << '\n';
+        out << tr("Wrote %1").arg(QFileInfo(html).absoluteFilePath()) << '\n';
         return std::nullopt;
     }
     PdfRenderer pages(session.applicationDataDirectory());
@@ -96,7 +95,7 @@ std::optional<Failure> renderCommand(AppSession& session, const CommandArgs& arg
     if (auto written = output.writePdf(**document, pdf); !written) {
         return Failure{written.error().text()};
     }
-    out << "Wrote " << QFileInfo(pdf).absoluteFilePath() << '\n';
+    out << tr("Wrote %1").arg(QFileInfo(pdf).absoluteFilePath()) << '\n';
     return std::nullopt;
 }
 
@@ -111,7 +110,7 @@ std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs&
     }
     const QString folder = QFileInfo(args.operand(0)).absoluteFilePath();
     if (!QDir().mkpath(folder)) {
-        return Failure{QStringLiteral("cannot create the folder %1").arg(folder)};
+        return Failure{tr("cannot create the folder %1").arg(folder)};
     }
     DesignLibrary designs(session);
     InvoiceHtml html(session, designs);
@@ -136,12 +135,11 @@ std::optional<Failure> exportPdfsCommand(AppSession& session, const CommandArgs&
             out << item.destinationURL << '\n';
         } else {
             ++failed;
-            out << "not written: " << item.destinationURL << ": " << item.error->text() << '\n';
+            out << tr("not written: %1: %2").arg(item.destinationURL, item.error->text()) << '\n';
         }
     }
     if (failed > 0) {
-        return Failure{
-            QStringLiteral("%1 of %2 documents were not written").arg(failed).arg(number)};
+        return Failure{tr("%1 of %2 documents were not written").arg(failed).arg(number)};
     }
     return std::nullopt;
 }
@@ -161,8 +159,7 @@ std::optional<Failure> designsCommand(AppSession& session, const CommandArgs& ar
                        .arg(int(i), 2)
                        .arg(int(i) == selected ? QChar(u'*') : QChar(u' '))
                        .arg(list[i]->string("title"))
-                       .arg(list[i]->boolean("isDefault") ? QStringLiteral(" (default)")
-                                                          : QString());
+                       .arg(list[i]->boolean("isDefault") ? u' ' + tr("(default)") : QString());
         }
         return std::nullopt;
     }
@@ -194,14 +191,14 @@ std::optional<Failure> designsCommand(AppSession& session, const CommandArgs& ar
         if (auto written = designs.exportDesignFile(design, file); !written) {
             return Failure{written.error().text()};
         }
-        out << "Wrote " << QFileInfo(file).absoluteFilePath() << '\n';
+        out << tr("Wrote %1").arg(QFileInfo(file).absoluteFilePath()) << '\n';
         return std::nullopt;
     }
     designs.selectDesign(*index);
     if (verb == u"default") {
         designs.makeDefaultDesign();
     } else if (verb == u"delete" && !designs.deleteDesign()) {
-        return Failure{QStringLiteral("nothing deleted (answer with --yes)")};
+        return Failure{tr("nothing deleted (answer with --yes)")};
     }
     return std::nullopt;
 }
@@ -224,11 +221,12 @@ std::optional<Failure> templatesCommand(AppSession& session, const CommandArgs& 
                 QStringList{list[i]->string("customerName"), list[i]->string("title")}
                     .join(u' ')
                     .trimmed();
-            out << QStringLiteral("%1 %2 (%3 lines) %4\n")
+            out << tr("%1 %2 (%3 lines) %4")
                        .arg(int(i), 2)
                        .arg(list[i]->string("notes"))
                        .arg(list[i]->toMany("items").size())
-                       .arg(title);
+                       .arg(title)
+                << '\n';
         }
         return std::nullopt;
     }
@@ -245,7 +243,7 @@ std::optional<Failure> templatesCommand(AppSession& session, const CommandArgs& 
     const int index = args.operand(1).toInt(&number);
     if (!number || index < 0 || index >= int(list.size())) {
         return count >= 2 && (verb == u"apply" || verb == u"delete")
-                   ? Failure{QStringLiteral("there is no template %1 (see templates list)")
+                   ? Failure{tr("there is no template %1 (see templates list)")
                                  .arg(args.operand(1))}
                    : usage;
     }
@@ -255,8 +253,7 @@ std::optional<Failure> templatesCommand(AppSession& session, const CommandArgs& 
             return document.error();
         }
         if (!templates.selectTemplate(*list[size_t(index)])) {
-            return Failure{QStringLiteral("%1 is marked as already sent; the template was not "
-                                          "applied")
+            return Failure{tr("%1 is marked as already sent; the template was not applied")
                                .arg(args.operand(2))};
         }
         return std::nullopt;

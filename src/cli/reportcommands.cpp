@@ -45,7 +45,7 @@ std::expected<std::optional<ReportRange>, Failure> rangeFromArgs(const CommandAr
         const auto date = readDate(args.value(option), end);
         if (!date) {
             return std::unexpected(
-                args.usage(QStringLiteral("%1 needs a date such as 2026-03-01").arg(option)));
+                args.usage(tr("%1 needs a date such as 2026-03-01").arg(option)));
         }
         *target = *date;
     }
@@ -61,7 +61,7 @@ std::optional<Failure> writeOrPrint(const QString& path, const QByteArray& bytes
     if (auto written = writeFileAtomically(path, bytes); !written) {
         return Failure{written.error().text()};
     }
-    out << "Wrote " << QFileInfo(path).absoluteFilePath() << '\n';
+    out << tr("Wrote %1").arg(QFileInfo(path).absoluteFilePath()) << '\n';
     return std::nullopt;
 }
 
@@ -116,8 +116,9 @@ std::optional<Failure> accountBookCommand(AppSession& session, const CommandArgs
     if (!pages) {
         return Failure{pages.error().text()};
     }
-    out << "Wrote " << QFileInfo(pdf).absoluteFilePath() << " (" << *pages
-        << (*pages == 1 ? " page)\n" : " pages)\n");
+    out << (*pages == 1 ? tr("Wrote %1 (1 page)") : tr("Wrote %1 (%2 pages)").arg(*pages))
+               .arg(QFileInfo(pdf).absoluteFilePath())
+        << '\n';
     return std::nullopt;
 }
 

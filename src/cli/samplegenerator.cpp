@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/context.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -406,16 +407,16 @@ Result<SampleCounts> generateSample(Context& context, const Clock& clock,
 {
     const QDateTime now = clock.now();
     if (options.documents < 0) {
-        return invalid(QStringLiteral("The number of sample documents cannot be negative."));
+        return invalid(tr("The number of sample documents cannot be negative."));
     }
     if (options.itemsPerDocument < 0) {
-        return invalid(QStringLiteral("The number of lines per document cannot be negative."));
+        return invalid(tr("The number of lines per document cannot be negative."));
     }
     if (options.clients < 0) {
-        return invalid(QStringLiteral("The number of sample clients cannot be negative."));
+        return invalid(tr("The number of sample clients cannot be negative."));
     }
     if (!now.isValid()) {
-        return invalid(QStringLiteral("The sample cannot be dated: the clock gives no time."));
+        return invalid(tr("The sample cannot be dated: the clock gives no time."));
     }
 
     Dice dice(options.seed);

@@ -50,7 +50,7 @@ std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
     const bool image = std::string_view(key.name) == key::prefsLogo.name;
     if (args.has(u"--file"_qs)) {
         if (!image || args.operandCount() != 2) {
-            return args.usage(QStringLiteral("--file gives the image of prefsLogo"));
+            return args.usage(tr("--file gives the image of prefsLogo"));
         }
         auto data = logoDataFromFile(args.value(u"--file"_qs));
         if (!data) {
@@ -66,8 +66,8 @@ std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
         // The logo is image data: text would only render as the missing-logo notice.
         if (!text.isEmpty()) {
             return args.usage(
-                QStringLiteral("prefsLogo holds an image: set it with --file IMAGE, or remove "
-                               "it with an empty value"));
+                tr("prefsLogo holds an image: set it with --file IMAGE, or remove it with an "
+                   "empty value"));
         }
         return written(session.settings(), session.settings().remove(key));
     }
@@ -83,8 +83,7 @@ std::optional<Failure> setSetting(AppSession& session, const SettingKey& key,
         value = Settings::fromText(key, text);
     }
     if (!value) {
-        return Failure{QStringLiteral("%1 is not a valid value for %2")
-                           .arg(text, QLatin1StringView(key.name))};
+        return Failure{tr("%1 is not a valid value for %2").arg(text, QLatin1StringView(key.name))};
     }
     return written(session.settings(), session.settings().set(key, *value));
 }
@@ -103,7 +102,7 @@ std::optional<Failure> settingsCommand(AppSession& session, const CommandArgs& a
     }
     const SettingKey* key = findSettingKey(args.operand(1).toStdString());
     if (!key) {
-        return Failure{QStringLiteral("there is no setting named %1").arg(args.operand(1))};
+        return Failure{tr("there is no setting named %1").arg(args.operand(1))};
     }
     if (verb == u"set") {
         return setSetting(session, *key, args);
@@ -121,25 +120,22 @@ std::optional<Failure> setupCommand(AppSession& session, const CommandArgs& args
     const StartingLanguage* language = startingLanguage(code);
     if (args.operandCount() > 0 || !language) {
         return args.usage(code.isEmpty() ? QString()
-                                         : QStringLiteral("there are no starting values for "
-                                                          "\"%1\"")
-                                               .arg(code));
+                                         : tr("there are no starting values for \"%1\"").arg(code));
     }
     DesignLibrary designs(session);
     SetupAssistant assistant(session, designs);
     if (!assistant.openAssi()) {
-        return Failure{
-            QStringLiteral("setup: nothing was changed (questions are answered only "
-                           "with --yes)")};
+        return Failure{tr("setup: nothing was changed (questions are answered only with --yes)")};
     }
     assistant.setLanguage(language->index);
     const int applied = assistant.firstAssiTabAction();
     if (applied == 0) {
-        return Failure{QStringLiteral("setup: no starting values were applied")};
+        return Failure{tr("setup: no starting values were applied")};
     }
-    out << QStringLiteral("Applied %1 starting values (%2).\n")
+    out << tr("Applied %1 starting values (%2).")
                .arg(applied)
-               .arg(QString::fromUtf8(language->name));
+               .arg(QString::fromUtf8(language->name))
+        << '\n';
     return std::nullopt;
 }
 
