@@ -1509,6 +1509,134 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Der fällige Betrag (%1) ist nicht die Summe mit Steuer abzüglich des bereits Bezahlten (%2).</translation>
     </message>
     <message>
+      <source>The file is not a readable archive.</source>
+      <translation>Die Datei ist kein lesbares Archiv.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be found.</source>
+      <translation>Die Datei „%1“ wurde nicht gefunden.</translation>
+    </message>
+    <message>
+      <source>The file “%1” is too large to be a Tamo file (%2 MB).</source>
+      <translation>Die Datei „%1“ ist zu groß für eine Tamo-Datei (%2 MB).</translation>
+    </message>
+    <message>
+      <source>Nothing was read from it.</source>
+      <translation>Es wurde nichts daraus gelesen.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>Die Datei „%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+      <source>The data could not be written as a property list.</source>
+      <translation>Die Daten konnten nicht als Eigenschaftsliste geschrieben werden.</translation>
+    </message>
+    <message>
+      <source>The file is empty or not a property list.</source>
+      <translation>Die Datei ist leer oder keine Eigenschaftsliste.</translation>
+    </message>
+    <message>
+      <source>The file refers to itself in a loop.</source>
+      <translation>Die Datei verweist in einer Schleife auf sich selbst.</translation>
+    </message>
+    <message>
+      <source>The file nests deeper than any Tamo file does.</source>
+      <translation>Die Datei ist tiefer verschachtelt als jede Tamo-Datei.</translation>
+    </message>
+    <message>
+      <source>“%1” holds “%2”, which is not a date.</source>
+      <translation>„%1“ enthält „%2“, was kein Datum ist.</translation>
+    </message>
+    <message>
+      <source>Record %1: %2</source>
+      <translation>Datensatz %1: %2</translation>
+    </message>
+    <message>
+      <source>The file is not a property list, or it is damaged.</source>
+      <translation>Die Datei ist keine Eigenschaftsliste oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+      <source>a yes/no value</source>
+      <translation>ein Ja/Nein-Wert</translation>
+    </message>
+    <message>
+      <source>a number</source>
+      <translation>eine Zahl</translation>
+    </message>
+    <message>
+      <source>a list</source>
+      <translation>eine Liste</translation>
+    </message>
+    <message>
+      <source>a record</source>
+      <translation>ein Datensatz</translation>
+    </message>
+    <message>
+      <source>a date</source>
+      <translation>ein Datum</translation>
+    </message>
+    <message>
+      <source>binary data</source>
+      <translation>Binärdaten</translation>
+    </message>
+    <message>
+      <source>an object reference</source>
+      <translation>ein Objektverweis</translation>
+    </message>
+    <message>
+      <source>a whole number</source>
+      <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2 where %3 belongs</source>
+      <translation>„%1“ enthält %2, wo %3 hingehört</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2, which is too large for a whole number</source>
+      <translation>„%1“ enthält %2, was für eine ganze Zahl zu groß ist</translation>
+    </message>
+    <message>
+      <source>“status” holds %1, which is no status (0 to 4)</source>
+      <translation>„status“ enthält %1, was kein Status ist (0 bis 4)</translation>
+    </message>
+    <message>
+      <source>Record %1</source>
+      <translation>Datensatz %1</translation>
+    </message>
+    <message>
+      <source>Record %1 (%2)</source>
+      <translation>Datensatz %1 (%2)</translation>
+    </message>
+    <message>
+      <source>a record names no kind</source>
+      <translation>ein Datensatz nennt keine Art</translation>
+    </message>
+    <message>
+      <source>there are no records of kind “%1”</source>
+      <translation>es gibt keine Datensätze der Art „%1“</translation>
+    </message>
+    <message>
+      <source>The %1 record %2 holds %3 in “%4”, which a property list cannot hold.</source>
+      <translation>Der Datensatz %2 (%1) enthält %3 in „%4“, was eine Eigenschaftsliste nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+      <source>%1 stands where a record belongs</source>
+      <translation>%1 steht, wo ein Datensatz hingehört</translation>
+    </message>
+    <message>
+      <source>It holds %1 where a list of records belongs.</source>
+      <translation>Sie enthält %1, wo eine Liste von Datensätzen hingehört.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be put in place.</source>
+      <translation>Die Datei „%1“ konnte nicht an ihren Platz gelegt werden.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be removed.</source>
+      <translation>Die Datei „%1“ konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
       <source>The copy “%1” could not be written.</source>
       <translation>Die Kopie „%1“ konnte nicht geschrieben werden.</translation>
     </message>
@@ -1579,10 +1707,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>The file “%1” could not be written.</source>
       <translation>Die Datei „%1“ konnte nicht geschrieben werden.</translation>
-    </message>
-    <message>
-      <source>The file “%1” could not be read.</source>
-      <translation>Die Datei „%1“ konnte nicht gelesen werden.</translation>
     </message>
     <message>
       <source>“%1” cannot be used as the logo.</source>
@@ -1723,6 +1847,14 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Your change was not kept.</source>
       <translation>Ihre Änderung wurde nicht übernommen.</translation>
+    </message>
+    <message>
+      <source>The data nests too deeply to be archived.</source>
+      <translation>Die Daten sind zu tief verschachtelt, um archiviert zu werden.</translation>
+    </message>
+    <message>
+      <source>The data holds a value that cannot be archived.</source>
+      <translation>Die Daten enthalten einen Wert, der nicht archiviert werden kann.</translation>
     </message>
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
@@ -2131,12 +2263,136 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Das Dokument konnte nicht an den Drucker „%1“ gesendet werden.</translation>
     </message>
     <message>
+      <source>The safety copy of your invoices was not written.</source>
+      <translation>Die Sicherheitskopie Ihrer Rechnungen wurde nicht angelegt.</translation>
+    </message>
+    <message>
+      <source>No valid backup file available. Please restore your Tamo database from your own (Time Machine) backups.</source>
+      <translation>Keine gültige Sicherungsdatei vorhanden. Bitte stellen Sie Ihre Tamo-Datenbank aus Ihren eigenen Sicherungen (Time Machine) wieder her.</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from the safety copy. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Sie sind dabei, Ihre Tamo-Rechnungen aus der Sicherheitskopie wiederherzustellen. Dabei werden alle vorhandenen Rechnungen unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Restore…</source>
+      <translation>Wiederherstellen …</translation>
+    </message>
+    <message>
+      <source>Nothing was changed.</source>
+      <translation>Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+      <source>Tamo has no database until it starts again.</source>
+      <translation>Tamo hat bis zum nächsten Start keine Datenbank.</translation>
+    </message>
+    <message>
+      <source>The database was not backed up.</source>
+      <translation>Die Datenbank wurde nicht gesichert.</translation>
+    </message>
+    <message>
+      <source>Your latest changes could not be saved first; please check them.</source>
+      <translation>Ihre letzten Änderungen konnten vorher nicht gespeichert werden; bitte prüfen Sie sie.</translation>
+    </message>
+    <message>
+      <source>Backup E-Tamo Database</source>
+      <translation>E-Tamo-Datenbank sichern</translation>
+    </message>
+    <message>
+      <source>You are about to restore your entire E-Tamo database from a backup. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Sie sind dabei, Ihre gesamte E-Tamo-Datenbank aus einer Sicherung wiederherzustellen. Dabei werden alle vorhandenen Daten unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Restore E-Tamo Database</source>
+      <translation>E-Tamo-Datenbank wiederherstellen</translation>
+    </message>
+    <message>
+      <source>Backup Raw Database</source>
+      <translation>Rohdatenbank sichern</translation>
+    </message>
+    <message>
+      <source>You are about to replace your entire E-Tamo database with a raw copy of a database file. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Sie sind dabei, Ihre gesamte E-Tamo-Datenbank durch die Rohkopie einer Datenbankdatei zu ersetzen. Dabei werden alle vorhandenen Daten unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Restore Raw Database</source>
+      <translation>Rohdatenbank wiederherstellen</translation>
+    </message>
+    <message>
+      <source>Could not restore Tamo database automatically. Please do this by hand. In case of problems, simply contact the Sorel support.</source>
+      <translation>Die Tamo-Datenbank konnte nicht automatisch wiederhergestellt werden. Bitte tun Sie dies von Hand. Bei Problemen wenden Sie sich einfach an den Sorel-Support.</translation>
+    </message>
+    <message>
+      <source>You are about to move the database of Tamo's Flatpak edition here. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Sie sind dabei, die Datenbank der Flatpak-Ausgabe von Tamo hierher zu übernehmen. Dabei werden alle vorhandenen Daten unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Move…</source>
+      <translation>Übernehmen …</translation>
+    </message>
+    <message>
+      <source>There is no recovery copy yet. Tamo writes one before every restore that replaces stored data.</source>
+      <translation>Es gibt noch keine Wiederherstellungskopie. Tamo legt vor jeder Wiederherstellung, die gespeicherte Daten ersetzt, eine an.</translation>
+    </message>
+    <message>
+      <source>Recover Previous Database</source>
+      <translation>Vorherige Datenbank zurückholen</translation>
+    </message>
+    <message>
+      <source>You are about to return to the database as it was in “%1”. What is stored now is kept as another recovery copy. Do you want to do that?</source>
+      <translation>Sie sind dabei, zur Datenbank im Stand „%1“ zurückzukehren. Der jetzige Stand wird als weitere Wiederherstellungskopie aufbewahrt. Möchten Sie das tun?</translation>
+    </message>
+    <message>
+      <source>Recover…</source>
+      <translation>Zurückholen …</translation>
+    </message>
+    <message>
+      <source>Warning!</source>
+      <translation>Warnung!</translation>
+    </message>
+    <message>
       <source>Without a recovery copy nothing was changed.</source>
       <translation>Ohne Wiederherstellungskopie wurde nichts verändert.</translation>
     </message>
     <message>
       <source>No file was written: the store could not be read completely.</source>
       <translation>Es wurde keine Datei geschrieben: Der Datenbestand konnte nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+      <source>No file was written.</source>
+      <translation>Es wurde keine Datei geschrieben.</translation>
+    </message>
+    <message>
+      <source>Export Tamo Database As XML</source>
+      <translation>Tamo-Datenbank als XML exportieren</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Invoices</source>
+      <translation>Tamo-Rechnungen sichern</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Items</source>
+      <translation>Tamo-Artikel sichern</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from a backup. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Sie sind dabei, Ihre Tamo-Rechnungen aus einer Sicherung wiederherzustellen. Dabei werden alle vorhandenen Rechnungen unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Invoices</source>
+      <translation>Tamo-Rechnungen wiederherstellen</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo items from a backup. This will irretrievably replace any existing items. Do you really want to do that?</source>
+      <translation>Sie sind dabei, Ihre Tamo-Artikel aus einer Sicherung wiederherzustellen. Dabei werden alle vorhandenen Artikel unwiderruflich ersetzt. Möchten Sie das wirklich tun?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Items</source>
+      <translation>Tamo-Artikel wiederherstellen</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be restored.</source>
+      <translation>Die Datei „%1“ konnte nicht wiederhergestellt werden.</translation>
     </message>
     <message>
       <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
@@ -2148,6 +2404,42 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
         <numerusform>%n Datensatz trug eine Identität (uniqueID), die ein anderer Datensatz bereits hat. Er hat eine neue erhalten, damit jeder Datensatz über seine eigene gefunden wird.</numerusform>
         <numerusform>%n Datensätze trugen eine Identität (uniqueID), die ein anderer Datensatz bereits hat. Jeder hat eine neue erhalten, damit jeder Datensatz über seine eigene gefunden wird.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>Export As Invoices Dump</source>
+      <translation>Als Rechnungsabzug exportieren</translation>
+    </message>
+    <message>
+      <source>The integrity of your data is your responsibility, and yours alone. Tamo is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+      <translation>Für die Richtigkeit Ihrer Daten sind Sie verantwortlich, und nur Sie. Tamo ist nur eine dumme App und kann von Haus aus weder doppelte Rechnungen noch durcheinandergeratene Nummern erkennen – und auch nicht, ob Sie heute einen schlechten Tag haben. Tun Sie sich also bitte den Gefallen und prüfen Sie, was Sie hier tun. Möchten Sie die Rechnung trotzdem importieren?</translation>
+    </message>
+    <message>
+      <source>Import…</source>
+      <translation>Importieren …</translation>
+    </message>
+    <message>
+      <source>Import Tamo Document</source>
+      <translation>Tamo-Dokument importieren</translation>
+    </message>
+    <message>
+      <source>The document “%1” could not be imported.</source>
+      <translation>Das Dokument „%1“ konnte nicht importiert werden.</translation>
+    </message>
+    <message>
+      <source>It holds no document.</source>
+      <translation>Sie enthält kein Dokument.</translation>
+    </message>
+    <message>
+      <source>Import Document</source>
+      <translation>Dokument importieren</translation>
+    </message>
+    <message>
+      <source>Tamo, Tamo Documents, and the Tamo Database</source>
+      <translation>Tamo, Tamo-Dokumente und die Tamo-Datenbank</translation>
+    </message>
+    <message>
+      <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Tamo database.</source>
+      <translation>Um doppelte Einträge und Störungen zu vermeiden und die Datenbank intakt zu halten, verwenden Sie bitte das Menü „Datei“, um Dokumente zu öffnen und die Tamo-Datenbank wiederherzustellen.</translation>
     </message>
     <message>
       <source>Database</source>
@@ -2285,10 +2577,6 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Als Standard festlegen</translation>
     </message>
     <message>
-      <source>Import…</source>
-      <translation>Importieren …</translation>
-    </message>
-    <message>
       <source>Export…</source>
       <translation>Exportieren …</translation>
     </message>
@@ -2319,6 +2607,26 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>xdg-open ended with code %1.</source>
       <translation>xdg-open wurde mit Code %1 beendet.</translation>
+    </message>
+    <message>
+      <source>the records nest too deeply</source>
+      <translation>die Datensätze sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+      <source>a record of kind %1 has no entry “%2”</source>
+      <translation>ein Datensatz der Art %1 hat keinen Eintrag „%2“</translation>
+    </message>
+    <message>
+      <source>%1, entry %2</source>
+      <translation>%1, Eintrag %2</translation>
+    </message>
+    <message>
+      <source>a list of records</source>
+      <translation>eine Liste von Datensätzen</translation>
+    </message>
+    <message>
+      <source>a record of kind “%1” stands where one of kind %2 belongs</source>
+      <translation>ein Datensatz der Art „%1“ steht, wo einer der Art %2 hingehört</translation>
     </message>
     <message>
       <source>Grant a discount</source>
@@ -3614,10 +3922,6 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Weiter …</translation>
     </message>
     <message>
-      <source>Warning!</source>
-      <translation>Warnung!</translation>
-    </message>
-    <message>
       <source>It seems that you've already setup E-Tamo and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
       <translation>Anscheinend haben Sie E-Tamo bereits eingerichtet und den Einrichtungsassistenten mindestens einmal ausgeführt. Wenn Sie ihn erneut ausführen, werden alle Ihre Anpassungen gelöscht und durch die Standardwerte ersetzt. Möchten Sie wirklich fortfahren?</translation>
     </message>
@@ -3975,6 +4279,74 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Not printed</source>
       <translation>Wird nicht gedruckt</translation>
+    </message>
+    <message>
+      <source>It holds no keyed archive.</source>
+      <translation>Sie enthält kein Schlüsselarchiv.</translation>
+    </message>
+    <message>
+      <source>Its root object is empty.</source>
+      <translation>Ihr Wurzelobjekt ist leer.</translation>
+    </message>
+    <message>
+      <source>It holds %1 where an object reference belongs.</source>
+      <translation>Sie enthält %1, wo ein Objektverweis hingehört.</translation>
+    </message>
+    <message>
+      <source>It refers to object %1 of %2.</source>
+      <translation>Sie verweist auf Objekt %1 von %2.</translation>
+    </message>
+    <message>
+      <source>Its objects unfold far beyond the size of the file.</source>
+      <translation>Ihre Objekte entfalten sich weit über die Größe der Datei hinaus.</translation>
+    </message>
+    <message>
+      <source>Its objects nest too deeply.</source>
+      <translation>Ihre Objekte sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+      <source>A date lies too far from today.</source>
+      <translation>Ein Datum liegt zu weit vom heutigen Tag entfernt.</translation>
+    </message>
+    <message>
+      <source>Object %1 is %2.</source>
+      <translation>Objekt %1 ist %2.</translation>
+    </message>
+    <message>
+      <source>Object %1 contains itself.</source>
+      <translation>Objekt %1 enthält sich selbst.</translation>
+    </message>
+    <message>
+      <source>A data object holds no bytes.</source>
+      <translation>Ein Datenobjekt enthält keine Bytes.</translation>
+    </message>
+    <message>
+      <source>It holds an object of class “%1”, which Tamo does not read.</source>
+      <translation>Sie enthält ein Objekt der Klasse „%1“, das Tamo nicht liest.</translation>
+    </message>
+    <message>
+      <source>A dictionary has no matching keys and values.</source>
+      <translation>Ein Verzeichnis hat keine zueinander passenden Schlüssel und Werte.</translation>
+    </message>
+    <message>
+      <source>A dictionary has a key that is not text.</source>
+      <translation>Ein Verzeichnis hat einen Schlüssel, der kein Text ist.</translation>
+    </message>
+    <message>
+      <source>A list has no members.</source>
+      <translation>Eine Liste hat keine Elemente.</translation>
+    </message>
+    <message>
+      <source>A text object holds no text.</source>
+      <translation>Ein Textobjekt enthält keinen Text.</translation>
+    </message>
+    <message>
+      <source>A date holds no time.</source>
+      <translation>Ein Datum enthält keine Zeit.</translation>
+    </message>
+    <message>
+      <source>A decimal number is malformed.</source>
+      <translation>Eine Dezimalzahl ist fehlerhaft.</translation>
     </message>
     <message>
       <source>Preferences</source>

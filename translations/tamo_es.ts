@@ -1509,6 +1509,134 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>El importe pendiente (%1) no es el total con impuestos menos lo pagado (%2).</translation>
     </message>
     <message>
+      <source>The file is not a readable archive.</source>
+      <translation>El archivo no es un archivo comprimido legible.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be found.</source>
+      <translation>No se encontró el archivo «%1».</translation>
+    </message>
+    <message>
+      <source>The file “%1” is too large to be a Tamo file (%2 MB).</source>
+      <translation>El archivo «%1» es demasiado grande para ser un archivo de Tamo (%2 MB).</translation>
+    </message>
+    <message>
+      <source>Nothing was read from it.</source>
+      <translation>No se leyó nada de él.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>No se pudo leer el archivo «%1».</translation>
+    </message>
+    <message>
+      <source>The data could not be written as a property list.</source>
+      <translation>Los datos no se pudieron escribir como lista de propiedades.</translation>
+    </message>
+    <message>
+      <source>The file is empty or not a property list.</source>
+      <translation>El archivo está vacío o no es una lista de propiedades.</translation>
+    </message>
+    <message>
+      <source>The file refers to itself in a loop.</source>
+      <translation>El archivo se remite a sí mismo en bucle.</translation>
+    </message>
+    <message>
+      <source>The file nests deeper than any Tamo file does.</source>
+      <translation>El archivo está más anidado que cualquier archivo de Tamo.</translation>
+    </message>
+    <message>
+      <source>“%1” holds “%2”, which is not a date.</source>
+      <translation>«%1» contiene «%2», que no es una fecha.</translation>
+    </message>
+    <message>
+      <source>Record %1: %2</source>
+      <translation>Registro %1: %2</translation>
+    </message>
+    <message>
+      <source>The file is not a property list, or it is damaged.</source>
+      <translation>El archivo no es una lista de propiedades o está dañado.</translation>
+    </message>
+    <message>
+      <source>a yes/no value</source>
+      <translation>un valor sí/no</translation>
+    </message>
+    <message>
+      <source>a number</source>
+      <translation>un número</translation>
+    </message>
+    <message>
+      <source>a list</source>
+      <translation>una lista</translation>
+    </message>
+    <message>
+      <source>a record</source>
+      <translation>un registro</translation>
+    </message>
+    <message>
+      <source>a date</source>
+      <translation>una fecha</translation>
+    </message>
+    <message>
+      <source>binary data</source>
+      <translation>datos binarios</translation>
+    </message>
+    <message>
+      <source>an object reference</source>
+      <translation>una referencia de objeto</translation>
+    </message>
+    <message>
+      <source>a whole number</source>
+      <translation>un número entero</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2 where %3 belongs</source>
+      <translation>«%1» contiene %2 donde corresponde %3</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2, which is too large for a whole number</source>
+      <translation>«%1» contiene %2, demasiado grande para un número entero</translation>
+    </message>
+    <message>
+      <source>“status” holds %1, which is no status (0 to 4)</source>
+      <translation>«status» contiene %1, que no es un estado (0 a 4)</translation>
+    </message>
+    <message>
+      <source>Record %1</source>
+      <translation>Registro %1</translation>
+    </message>
+    <message>
+      <source>Record %1 (%2)</source>
+      <translation>Registro %1 (%2)</translation>
+    </message>
+    <message>
+      <source>a record names no kind</source>
+      <translation>un registro no indica ningún tipo</translation>
+    </message>
+    <message>
+      <source>there are no records of kind “%1”</source>
+      <translation>no existen registros del tipo «%1»</translation>
+    </message>
+    <message>
+      <source>The %1 record %2 holds %3 in “%4”, which a property list cannot hold.</source>
+      <translation>El registro %1 %2 contiene %3 en «%4», algo que una lista de propiedades no puede contener.</translation>
+    </message>
+    <message>
+      <source>%1 stands where a record belongs</source>
+      <translation>%1 está donde corresponde un registro</translation>
+    </message>
+    <message>
+      <source>It holds %1 where a list of records belongs.</source>
+      <translation>Contiene %1 donde corresponde una lista de registros.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be put in place.</source>
+      <translation>El archivo «%1» no se pudo colocar en su sitio.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be removed.</source>
+      <translation>No se pudo eliminar el archivo «%1».</translation>
+    </message>
+    <message>
       <source>The copy “%1” could not be written.</source>
       <translation>No se pudo escribir la copia «%1».</translation>
     </message>
@@ -1579,10 +1707,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>The file “%1” could not be written.</source>
       <translation>No se pudo escribir el archivo «%1».</translation>
-    </message>
-    <message>
-      <source>The file “%1” could not be read.</source>
-      <translation>No se pudo leer el archivo «%1».</translation>
     </message>
     <message>
       <source>“%1” cannot be used as the logo.</source>
@@ -1723,6 +1847,14 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Your change was not kept.</source>
       <translation>Su cambio no se ha conservado.</translation>
+    </message>
+    <message>
+      <source>The data nests too deeply to be archived.</source>
+      <translation>Los datos están demasiado anidados para archivarlos.</translation>
+    </message>
+    <message>
+      <source>The data holds a value that cannot be archived.</source>
+      <translation>Los datos contienen un valor que no se puede archivar.</translation>
     </message>
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
@@ -2131,12 +2263,136 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>No se pudo enviar el documento a la impresora «%1».</translation>
     </message>
     <message>
+      <source>The safety copy of your invoices was not written.</source>
+      <translation>No se escribió la copia de protección de sus facturas.</translation>
+    </message>
+    <message>
+      <source>No valid backup file available. Please restore your Tamo database from your own (Time Machine) backups.</source>
+      <translation>No hay ningún archivo de copia de seguridad válido. Restaure su base de datos de Tamo desde sus propias copias de seguridad (Time Machine).</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from the safety copy. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Está a punto de restaurar sus facturas de Tamo desde la copia de protección. Todas las facturas existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Restore…</source>
+      <translation>Restaurar…</translation>
+    </message>
+    <message>
+      <source>Nothing was changed.</source>
+      <translation>No se ha cambiado nada.</translation>
+    </message>
+    <message>
+      <source>Tamo has no database until it starts again.</source>
+      <translation>Tamo no tiene base de datos hasta que vuelva a iniciarse.</translation>
+    </message>
+    <message>
+      <source>The database was not backed up.</source>
+      <translation>No se hizo la copia de seguridad de la base de datos.</translation>
+    </message>
+    <message>
+      <source>Your latest changes could not be saved first; please check them.</source>
+      <translation>Sus últimos cambios no se pudieron guardar antes; revíselos.</translation>
+    </message>
+    <message>
+      <source>Backup E-Tamo Database</source>
+      <translation>Crear copia de seguridad de la base de datos de E-Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your entire E-Tamo database from a backup. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Está a punto de restaurar toda su base de datos de E-Tamo desde una copia de seguridad. Todos los datos existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Restore E-Tamo Database</source>
+      <translation>Restaurar base de datos de E-Tamo</translation>
+    </message>
+    <message>
+      <source>Backup Raw Database</source>
+      <translation>Copia de seguridad de la base de datos sin procesar</translation>
+    </message>
+    <message>
+      <source>You are about to replace your entire E-Tamo database with a raw copy of a database file. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Está a punto de sustituir toda su base de datos de E-Tamo por la copia sin procesar de un archivo de base de datos. Todos los datos existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Restore Raw Database</source>
+      <translation>Restaurar base de datos sin procesar</translation>
+    </message>
+    <message>
+      <source>Could not restore Tamo database automatically. Please do this by hand. In case of problems, simply contact the Sorel support.</source>
+      <translation>No se pudo restaurar automáticamente la base de datos de Tamo. Hágalo a mano. Si tiene problemas, póngase en contacto con el soporte de Sorel.</translation>
+    </message>
+    <message>
+      <source>You are about to move the database of Tamo's Flatpak edition here. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Está a punto de traer aquí la base de datos de la edición Flatpak de Tamo. Todos los datos existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Move…</source>
+      <translation>Mover…</translation>
+    </message>
+    <message>
+      <source>There is no recovery copy yet. Tamo writes one before every restore that replaces stored data.</source>
+      <translation>Todavía no hay ninguna copia de recuperación. Tamo escribe una antes de cada restauración que sustituye datos guardados.</translation>
+    </message>
+    <message>
+      <source>Recover Previous Database</source>
+      <translation>Recuperar base de datos anterior</translation>
+    </message>
+    <message>
+      <source>You are about to return to the database as it was in “%1”. What is stored now is kept as another recovery copy. Do you want to do that?</source>
+      <translation>Está a punto de volver a la base de datos tal como estaba en «%1». Lo que hay guardado ahora se conserva como otra copia de recuperación. ¿Quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Recover…</source>
+      <translation>Recuperar…</translation>
+    </message>
+    <message>
+      <source>Warning!</source>
+      <translation>¡Atención!</translation>
+    </message>
+    <message>
       <source>Without a recovery copy nothing was changed.</source>
       <translation>Sin copia de recuperación no se ha cambiado nada.</translation>
     </message>
     <message>
       <source>No file was written: the store could not be read completely.</source>
       <translation>No se escribió ningún archivo: el almacén no se pudo leer por completo.</translation>
+    </message>
+    <message>
+      <source>No file was written.</source>
+      <translation>No se escribió ningún archivo.</translation>
+    </message>
+    <message>
+      <source>Export Tamo Database As XML</source>
+      <translation>Exportar base de datos de Tamo como XML</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Invoices</source>
+      <translation>Copia de seguridad de facturas de Tamo</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Items</source>
+      <translation>Copia de seguridad de artículos de Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from a backup. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Está a punto de restaurar sus facturas de Tamo desde una copia de seguridad. Todas las facturas existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Invoices</source>
+      <translation>Restaurar facturas de Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo items from a backup. This will irretrievably replace any existing items. Do you really want to do that?</source>
+      <translation>Está a punto de restaurar sus artículos de Tamo desde una copia de seguridad. Todos los artículos existentes se sustituirán de forma irreversible. ¿Seguro que quiere hacerlo?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Items</source>
+      <translation>Restaurar artículos de Tamo</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be restored.</source>
+      <translation>No se pudo restaurar el archivo «%1».</translation>
     </message>
     <message>
       <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
@@ -2148,6 +2404,42 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
         <numerusform>%n registro llevaba una identidad (uniqueID) que ya tiene otro registro. Ha recibido una nueva, para que cada registro se encuentre por la suya.</numerusform>
         <numerusform>%n registros llevaban una identidad (uniqueID) que ya tiene otro registro. Cada uno ha recibido una nueva, para que cada registro se encuentre por la suya.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>Export As Invoices Dump</source>
+      <translation>Exportar como volcado de facturas</translation>
+    </message>
+    <message>
+      <source>The integrity of your data is your responsibility, and yours alone. Tamo is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+      <translation>La integridad de sus datos es responsabilidad suya y solo suya. Tamo no es más que una simple aplicación y, por diseño, no puede saber ni preocuparse de facturas duplicadas, números desordenados o de si hoy tiene un mal día. Así que hágase un favor y compruebe lo que está haciendo. ¿Aún quiere importar la factura?</translation>
+    </message>
+    <message>
+      <source>Import…</source>
+      <translation>Importar…</translation>
+    </message>
+    <message>
+      <source>Import Tamo Document</source>
+      <translation>Importar documento de Tamo</translation>
+    </message>
+    <message>
+      <source>The document “%1” could not be imported.</source>
+      <translation>No se pudo importar el documento «%1».</translation>
+    </message>
+    <message>
+      <source>It holds no document.</source>
+      <translation>No contiene ningún documento.</translation>
+    </message>
+    <message>
+      <source>Import Document</source>
+      <translation>Importar documento</translation>
+    </message>
+    <message>
+      <source>Tamo, Tamo Documents, and the Tamo Database</source>
+      <translation>Tamo, los documentos de Tamo y la base de datos de Tamo</translation>
+    </message>
+    <message>
+      <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Tamo database.</source>
+      <translation>Para evitar entradas duplicadas y tropiezos, y mantener intacta la base de datos, use el menú «Archivo» para abrir documentos y restaurar la base de datos de Tamo.</translation>
     </message>
     <message>
       <source>Database</source>
@@ -2285,10 +2577,6 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Establecer como predeterminado</translation>
     </message>
     <message>
-      <source>Import…</source>
-      <translation>Importar…</translation>
-    </message>
-    <message>
       <source>Export…</source>
       <translation>Exportar…</translation>
     </message>
@@ -2319,6 +2607,26 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>xdg-open ended with code %1.</source>
       <translation>xdg-open terminó con el código %1.</translation>
+    </message>
+    <message>
+      <source>the records nest too deeply</source>
+      <translation>los registros están demasiado anidados</translation>
+    </message>
+    <message>
+      <source>a record of kind %1 has no entry “%2”</source>
+      <translation>un registro del tipo %1 no tiene la entrada «%2»</translation>
+    </message>
+    <message>
+      <source>%1, entry %2</source>
+      <translation>%1, entrada %2</translation>
+    </message>
+    <message>
+      <source>a list of records</source>
+      <translation>una lista de registros</translation>
+    </message>
+    <message>
+      <source>a record of kind “%1” stands where one of kind %2 belongs</source>
+      <translation>un registro del tipo «%1» está donde corresponde uno del tipo %2</translation>
     </message>
     <message>
       <source>Grant a discount</source>
@@ -3614,10 +3922,6 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Continuar…</translation>
     </message>
     <message>
-      <source>Warning!</source>
-      <translation>¡Atención!</translation>
-    </message>
-    <message>
       <source>It seems that you've already setup E-Tamo and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
       <translation>Parece que ya ha configurado E-Tamo y ha ejecutado el asistente de configuración al menos una vez. Si lo vuelve a ejecutar, se eliminarán todas sus personalizaciones y se sustituirán por los valores predeterminados. ¿Realmente desea continuar?</translation>
     </message>
@@ -3975,6 +4279,74 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Not printed</source>
       <translation>No se imprimen</translation>
+    </message>
+    <message>
+      <source>It holds no keyed archive.</source>
+      <translation>No contiene ningún archivo con claves.</translation>
+    </message>
+    <message>
+      <source>Its root object is empty.</source>
+      <translation>Su objeto raíz está vacío.</translation>
+    </message>
+    <message>
+      <source>It holds %1 where an object reference belongs.</source>
+      <translation>Contiene %1 donde corresponde una referencia de objeto.</translation>
+    </message>
+    <message>
+      <source>It refers to object %1 of %2.</source>
+      <translation>Remite al objeto %1 de %2.</translation>
+    </message>
+    <message>
+      <source>Its objects unfold far beyond the size of the file.</source>
+      <translation>Sus objetos se despliegan mucho más allá del tamaño del archivo.</translation>
+    </message>
+    <message>
+      <source>Its objects nest too deeply.</source>
+      <translation>Sus objetos están demasiado anidados.</translation>
+    </message>
+    <message>
+      <source>A date lies too far from today.</source>
+      <translation>Una fecha está demasiado lejos de hoy.</translation>
+    </message>
+    <message>
+      <source>Object %1 is %2.</source>
+      <translation>El objeto %1 es %2.</translation>
+    </message>
+    <message>
+      <source>Object %1 contains itself.</source>
+      <translation>El objeto %1 se contiene a sí mismo.</translation>
+    </message>
+    <message>
+      <source>A data object holds no bytes.</source>
+      <translation>Un objeto de datos no contiene ningún byte.</translation>
+    </message>
+    <message>
+      <source>It holds an object of class “%1”, which Tamo does not read.</source>
+      <translation>Contiene un objeto de la clase «%1», que Tamo no lee.</translation>
+    </message>
+    <message>
+      <source>A dictionary has no matching keys and values.</source>
+      <translation>Un diccionario no tiene claves y valores que se correspondan.</translation>
+    </message>
+    <message>
+      <source>A dictionary has a key that is not text.</source>
+      <translation>Un diccionario tiene una clave que no es texto.</translation>
+    </message>
+    <message>
+      <source>A list has no members.</source>
+      <translation>Una lista no tiene elementos.</translation>
+    </message>
+    <message>
+      <source>A text object holds no text.</source>
+      <translation>Un objeto de texto no contiene texto.</translation>
+    </message>
+    <message>
+      <source>A date holds no time.</source>
+      <translation>Una fecha no contiene ninguna hora.</translation>
+    </message>
+    <message>
+      <source>A decimal number is malformed.</source>
+      <translation>Un número decimal está mal formado.</translation>
     </message>
     <message>
       <source>Preferences</source>

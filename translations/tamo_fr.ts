@@ -1509,6 +1509,134 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Le montant dû (%1) n'est pas égal au total toutes taxes comprises moins ce qui a été payé (%2).</translation>
     </message>
     <message>
+      <source>The file is not a readable archive.</source>
+      <translation>Le fichier n’est pas une archive lisible.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be found.</source>
+      <translation>Le fichier « %1 » est introuvable.</translation>
+    </message>
+    <message>
+      <source>The file “%1” is too large to be a Tamo file (%2 MB).</source>
+      <translation>Le fichier « %1 » est trop volumineux pour être un fichier Tamo (%2 Mo).</translation>
+    </message>
+    <message>
+      <source>Nothing was read from it.</source>
+      <translation>Rien n’y a été lu.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be read.</source>
+      <translation>Le fichier « %1 » n’a pas pu être lu.</translation>
+    </message>
+    <message>
+      <source>The data could not be written as a property list.</source>
+      <translation>Les données n’ont pas pu être écrites en liste de propriétés.</translation>
+    </message>
+    <message>
+      <source>The file is empty or not a property list.</source>
+      <translation>Le fichier est vide ou n’est pas une liste de propriétés.</translation>
+    </message>
+    <message>
+      <source>The file refers to itself in a loop.</source>
+      <translation>Le fichier renvoie à lui-même en boucle.</translation>
+    </message>
+    <message>
+      <source>The file nests deeper than any Tamo file does.</source>
+      <translation>Le fichier est plus imbriqué que ne l’est aucun fichier Tamo.</translation>
+    </message>
+    <message>
+      <source>“%1” holds “%2”, which is not a date.</source>
+      <translation>« %1 » contient « %2 », qui n’est pas une date.</translation>
+    </message>
+    <message>
+      <source>Record %1: %2</source>
+      <translation>Enregistrement %1 : %2</translation>
+    </message>
+    <message>
+      <source>The file is not a property list, or it is damaged.</source>
+      <translation>Le fichier n’est pas une liste de propriétés, ou il est endommagé.</translation>
+    </message>
+    <message>
+      <source>a yes/no value</source>
+      <translation>une valeur oui/non</translation>
+    </message>
+    <message>
+      <source>a number</source>
+      <translation>un nombre</translation>
+    </message>
+    <message>
+      <source>a list</source>
+      <translation>une liste</translation>
+    </message>
+    <message>
+      <source>a record</source>
+      <translation>un enregistrement</translation>
+    </message>
+    <message>
+      <source>a date</source>
+      <translation>une date</translation>
+    </message>
+    <message>
+      <source>binary data</source>
+      <translation>des données binaires</translation>
+    </message>
+    <message>
+      <source>an object reference</source>
+      <translation>une référence d’objet</translation>
+    </message>
+    <message>
+      <source>a whole number</source>
+      <translation>un nombre entier</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2 where %3 belongs</source>
+      <translation>« %1 » contient %2 là où il faut %3</translation>
+    </message>
+    <message>
+      <source>“%1” holds %2, which is too large for a whole number</source>
+      <translation>« %1 » contient %2, trop grand pour un nombre entier</translation>
+    </message>
+    <message>
+      <source>“status” holds %1, which is no status (0 to 4)</source>
+      <translation>« status » contient %1, qui n’est pas un statut (0 à 4)</translation>
+    </message>
+    <message>
+      <source>Record %1</source>
+      <translation>Enregistrement %1</translation>
+    </message>
+    <message>
+      <source>Record %1 (%2)</source>
+      <translation>Enregistrement %1 (%2)</translation>
+    </message>
+    <message>
+      <source>a record names no kind</source>
+      <translation>un enregistrement n’indique aucun type</translation>
+    </message>
+    <message>
+      <source>there are no records of kind “%1”</source>
+      <translation>il n’existe pas d’enregistrements de type « %1 »</translation>
+    </message>
+    <message>
+      <source>The %1 record %2 holds %3 in “%4”, which a property list cannot hold.</source>
+      <translation>L’enregistrement %1 %2 contient %3 dans « %4 », ce qu’une liste de propriétés ne peut pas contenir.</translation>
+    </message>
+    <message>
+      <source>%1 stands where a record belongs</source>
+      <translation>%1 se trouve là où il faut un enregistrement</translation>
+    </message>
+    <message>
+      <source>It holds %1 where a list of records belongs.</source>
+      <translation>Il contient %1 là où il faut une liste d’enregistrements.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be put in place.</source>
+      <translation>Le fichier « %1 » n’a pas pu être mis en place.</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be removed.</source>
+      <translation>Le fichier « %1 » n’a pas pu être supprimé.</translation>
+    </message>
+    <message>
       <source>The copy “%1” could not be written.</source>
       <translation>La copie « %1 » n’a pas pu être écrite.</translation>
     </message>
@@ -1579,10 +1707,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>The file “%1” could not be written.</source>
       <translation>Le fichier « %1 » n’a pas pu être écrit.</translation>
-    </message>
-    <message>
-      <source>The file “%1” could not be read.</source>
-      <translation>Le fichier « %1 » n’a pas pu être lu.</translation>
     </message>
     <message>
       <source>“%1” cannot be used as the logo.</source>
@@ -1723,6 +1847,14 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Your change was not kept.</source>
       <translation>Votre modification n’a pas été conservée.</translation>
+    </message>
+    <message>
+      <source>The data nests too deeply to be archived.</source>
+      <translation>Les données sont trop imbriquées pour être archivées.</translation>
+    </message>
+    <message>
+      <source>The data holds a value that cannot be archived.</source>
+      <translation>Les données contiennent une valeur qui ne peut pas être archivée.</translation>
     </message>
     <message>
       <source>Only %1 of its %2 bytes reached the disk.</source>
@@ -2131,12 +2263,136 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Impossible d'envoyer le document à l'imprimante « %1 ».</translation>
     </message>
     <message>
+      <source>The safety copy of your invoices was not written.</source>
+      <translation>La copie de sécurité de vos factures n’a pas été écrite.</translation>
+    </message>
+    <message>
+      <source>No valid backup file available. Please restore your Tamo database from your own (Time Machine) backups.</source>
+      <translation>Aucun fichier de sauvegarde valable n’est disponible. Veuillez restaurer votre base de données Tamo à partir de vos propres sauvegardes (Time Machine).</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from the safety copy. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de restaurer vos factures Tamo à partir de la copie de sécurité. Toutes les factures existantes seront remplacées de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Restore…</source>
+      <translation>Restaurer…</translation>
+    </message>
+    <message>
+      <source>Nothing was changed.</source>
+      <translation>Rien n’a été modifié.</translation>
+    </message>
+    <message>
+      <source>Tamo has no database until it starts again.</source>
+      <translation>Tamo n’a plus de base de données jusqu’à son prochain démarrage.</translation>
+    </message>
+    <message>
+      <source>The database was not backed up.</source>
+      <translation>La base de données n’a pas été sauvegardée.</translation>
+    </message>
+    <message>
+      <source>Your latest changes could not be saved first; please check them.</source>
+      <translation>Vos dernières modifications n’ont pas pu être enregistrées au préalable ; veuillez les vérifier.</translation>
+    </message>
+    <message>
+      <source>Backup E-Tamo Database</source>
+      <translation>Sauvegarder la base de données E-Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your entire E-Tamo database from a backup. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de restaurer toute votre base de données E-Tamo à partir d’une sauvegarde. Toutes les données existantes seront remplacées de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Restore E-Tamo Database</source>
+      <translation>Restaurer la base de données E-Tamo</translation>
+    </message>
+    <message>
+      <source>Backup Raw Database</source>
+      <translation>Sauvegarder la base de données brute</translation>
+    </message>
+    <message>
+      <source>You are about to replace your entire E-Tamo database with a raw copy of a database file. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de remplacer toute votre base de données E-Tamo par la copie brute d’un fichier de base de données. Toutes les données existantes seront remplacées de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Restore Raw Database</source>
+      <translation>Restaurer la base de données brute</translation>
+    </message>
+    <message>
+      <source>Could not restore Tamo database automatically. Please do this by hand. In case of problems, simply contact the Sorel support.</source>
+      <translation>La base de données Tamo n’a pas pu être restaurée automatiquement. Veuillez le faire manuellement. En cas de problème, contactez simplement l’assistance Sorel.</translation>
+    </message>
+    <message>
+      <source>You are about to move the database of Tamo's Flatpak edition here. This will irretrievably replace any existing data. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de déplacer ici la base de données de l’édition Flatpak de Tamo. Toutes les données existantes seront remplacées de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Move…</source>
+      <translation>Déplacer…</translation>
+    </message>
+    <message>
+      <source>There is no recovery copy yet. Tamo writes one before every restore that replaces stored data.</source>
+      <translation>Il n’existe pas encore de copie de récupération. Tamo en écrit une avant chaque restauration qui remplace des données enregistrées.</translation>
+    </message>
+    <message>
+      <source>Recover Previous Database</source>
+      <translation>Récupérer une base de données précédente</translation>
+    </message>
+    <message>
+      <source>You are about to return to the database as it was in “%1”. What is stored now is kept as another recovery copy. Do you want to do that?</source>
+      <translation>Vous êtes sur le point de revenir à la base de données telle qu’elle était dans « %1 ». L’état actuel est conservé comme une autre copie de récupération. Voulez-vous continuer ?</translation>
+    </message>
+    <message>
+      <source>Recover…</source>
+      <translation>Récupérer…</translation>
+    </message>
+    <message>
+      <source>Warning!</source>
+      <translation>Attention !</translation>
+    </message>
+    <message>
       <source>Without a recovery copy nothing was changed.</source>
       <translation>Sans copie de récupération, rien n’a été modifié.</translation>
     </message>
     <message>
       <source>No file was written: the store could not be read completely.</source>
       <translation>Aucun fichier n’a été écrit : la base n’a pas pu être lue entièrement.</translation>
+    </message>
+    <message>
+      <source>No file was written.</source>
+      <translation>Aucun fichier n’a été écrit.</translation>
+    </message>
+    <message>
+      <source>Export Tamo Database As XML</source>
+      <translation>Exporter la base de données Tamo en XML</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Invoices</source>
+      <translation>Sauvegarder les factures Tamo</translation>
+    </message>
+    <message>
+      <source>Backup Tamo Items</source>
+      <translation>Sauvegarder les articles Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo invoices from a backup. This will irretrievably replace any existing invoices. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de restaurer vos factures Tamo à partir d’une sauvegarde. Toutes les factures existantes seront remplacées de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Invoices</source>
+      <translation>Restaurer les factures Tamo</translation>
+    </message>
+    <message>
+      <source>You are about to restore your Tamo items from a backup. This will irretrievably replace any existing items. Do you really want to do that?</source>
+      <translation>Vous êtes sur le point de restaurer vos articles Tamo à partir d’une sauvegarde. Tous les articles existants seront remplacés de manière irréversible. Voulez-vous vraiment continuer ?</translation>
+    </message>
+    <message>
+      <source>Restore Tamo Items</source>
+      <translation>Restaurer les articles Tamo</translation>
+    </message>
+    <message>
+      <source>The file “%1” could not be restored.</source>
+      <translation>Le fichier « %1 » n’a pas pu être restauré.</translation>
     </message>
     <message>
       <source>The records that were listed have been removed. The recovery copy “%1” holds them: File › Recover Previous Database… brings them back (on the command line: tamo --yes recover "%1").</source>
@@ -2148,6 +2404,42 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
         <numerusform>%n enregistrement portait une identité (uniqueID) qu’un autre enregistrement a déjà. Il en a reçu une nouvelle, afin que chaque enregistrement soit retrouvé par la sienne.</numerusform>
         <numerusform>%n enregistrements portaient une identité (uniqueID) qu’un autre enregistrement a déjà. Chacun en a reçu une nouvelle, afin que chaque enregistrement soit retrouvé par la sienne.</numerusform>
       </translation>
+    </message>
+    <message>
+      <source>Export As Invoices Dump</source>
+      <translation>Exporter en fichier de factures</translation>
+    </message>
+    <message>
+      <source>The integrity of your data is your responsibility, and yours alone. Tamo is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+      <translation>L’intégrité de vos données relève de votre responsabilité, et de la vôtre seule. Tamo n’est qu’une simple application : par conception, elle ne peut ni savoir ni se soucier des factures en double, des numéros embrouillés ou de vos jours sans. Alors, rendez-vous service et vérifiez ce que vous faites ici. Voulez-vous tout de même importer la facture ?</translation>
+    </message>
+    <message>
+      <source>Import…</source>
+      <translation>Importer…</translation>
+    </message>
+    <message>
+      <source>Import Tamo Document</source>
+      <translation>Importer un document Tamo</translation>
+    </message>
+    <message>
+      <source>The document “%1” could not be imported.</source>
+      <translation>Le document « %1 » n’a pas pu être importé.</translation>
+    </message>
+    <message>
+      <source>It holds no document.</source>
+      <translation>Il ne contient aucun document.</translation>
+    </message>
+    <message>
+      <source>Import Document</source>
+      <translation>Importation du document</translation>
+    </message>
+    <message>
+      <source>Tamo, Tamo Documents, and the Tamo Database</source>
+      <translation>Tamo, les documents Tamo et la base de données Tamo</translation>
+    </message>
+    <message>
+      <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Tamo database.</source>
+      <translation>Pour éviter les doublons et les accrocs, et pour garder la base de données intacte, veuillez utiliser le menu « Fichier » pour ouvrir des documents et restaurer la base de données Tamo.</translation>
     </message>
     <message>
       <source>Database</source>
@@ -2285,10 +2577,6 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Définir par défaut</translation>
     </message>
     <message>
-      <source>Import…</source>
-      <translation>Importer…</translation>
-    </message>
-    <message>
       <source>Export…</source>
       <translation>Exporter…</translation>
     </message>
@@ -2319,6 +2607,26 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>xdg-open ended with code %1.</source>
       <translation>xdg-open s'est terminé avec le code %1.</translation>
+    </message>
+    <message>
+      <source>the records nest too deeply</source>
+      <translation>les enregistrements sont trop imbriqués</translation>
+    </message>
+    <message>
+      <source>a record of kind %1 has no entry “%2”</source>
+      <translation>un enregistrement de type %1 n’a pas d’entrée « %2 »</translation>
+    </message>
+    <message>
+      <source>%1, entry %2</source>
+      <translation>%1, entrée %2</translation>
+    </message>
+    <message>
+      <source>a list of records</source>
+      <translation>une liste d’enregistrements</translation>
+    </message>
+    <message>
+      <source>a record of kind “%1” stands where one of kind %2 belongs</source>
+      <translation>un enregistrement de type « %1 » se trouve là où il en faut un de type %2</translation>
     </message>
     <message>
       <source>Grant a discount</source>
@@ -3614,10 +3922,6 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
       <translation>Continuer…</translation>
     </message>
     <message>
-      <source>Warning!</source>
-      <translation>Attention !</translation>
-    </message>
-    <message>
       <source>It seems that you've already setup E-Tamo and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
       <translation>Il semble que vous ayez déjà configuré E-Tamo et exécuté l'assistant de configuration au moins une fois. Le relancer supprimera toutes vos personnalisations et les remplacera par les valeurs par défaut. Voulez-vous vraiment continuer ?</translation>
     </message>
@@ -3975,6 +4279,74 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Not printed</source>
       <translation>Non imprimées</translation>
+    </message>
+    <message>
+      <source>It holds no keyed archive.</source>
+      <translation>Il ne contient aucune archive à clés.</translation>
+    </message>
+    <message>
+      <source>Its root object is empty.</source>
+      <translation>Son objet racine est vide.</translation>
+    </message>
+    <message>
+      <source>It holds %1 where an object reference belongs.</source>
+      <translation>Il contient %1 là où il faut une référence d’objet.</translation>
+    </message>
+    <message>
+      <source>It refers to object %1 of %2.</source>
+      <translation>Il renvoie à l’objet %1 sur %2.</translation>
+    </message>
+    <message>
+      <source>Its objects unfold far beyond the size of the file.</source>
+      <translation>Ses objets se déploient bien au-delà de la taille du fichier.</translation>
+    </message>
+    <message>
+      <source>Its objects nest too deeply.</source>
+      <translation>Ses objets sont trop imbriqués.</translation>
+    </message>
+    <message>
+      <source>A date lies too far from today.</source>
+      <translation>Une date est trop éloignée d’aujourd’hui.</translation>
+    </message>
+    <message>
+      <source>Object %1 is %2.</source>
+      <translation>L’objet %1 est %2.</translation>
+    </message>
+    <message>
+      <source>Object %1 contains itself.</source>
+      <translation>L’objet %1 se contient lui-même.</translation>
+    </message>
+    <message>
+      <source>A data object holds no bytes.</source>
+      <translation>Un objet de données ne contient aucun octet.</translation>
+    </message>
+    <message>
+      <source>It holds an object of class “%1”, which Tamo does not read.</source>
+      <translation>Il contient un objet de classe « %1 », que Tamo ne lit pas.</translation>
+    </message>
+    <message>
+      <source>A dictionary has no matching keys and values.</source>
+      <translation>Un dictionnaire n’a pas de clés et de valeurs correspondantes.</translation>
+    </message>
+    <message>
+      <source>A dictionary has a key that is not text.</source>
+      <translation>Un dictionnaire a une clé qui n’est pas du texte.</translation>
+    </message>
+    <message>
+      <source>A list has no members.</source>
+      <translation>Une liste n’a pas de membres.</translation>
+    </message>
+    <message>
+      <source>A text object holds no text.</source>
+      <translation>Un objet texte ne contient aucun texte.</translation>
+    </message>
+    <message>
+      <source>A date holds no time.</source>
+      <translation>Une date ne contient aucune heure.</translation>
+    </message>
+    <message>
+      <source>A decimal number is malformed.</source>
+      <translation>Un nombre décimal est mal formé.</translation>
     </message>
     <message>
       <source>Preferences</source>

@@ -1,4 +1,5 @@
 #include "interchange/keyedarchive.h"
+#include "platform/translations.h"
 
 #include <array>
 #include <cmath>
@@ -15,7 +16,7 @@ constexpr uint64_t kArchiverVersion = 100000;
 
 Error archiveError(QString reason)
 {
-    return interchangeError(kWrongContent, QStringLiteral("The file is not a readable archive."),
+    return interchangeError(kWrongContent, tr("The file is not a readable archive."),
                             std::move(reason));
 }
 
@@ -48,7 +49,7 @@ public:
     {
         if (depth > kMaxDepth) {
             return std::unexpected(interchangeError(
-                kNoPropertyListForm, QStringLiteral("The data nests too deeply to be archived.")));
+                kNoPropertyListForm, tr("The data nests too deeply to be archived.")));
         }
         switch (plist_get_node_type(node)) {
         case PLIST_STRING:
@@ -73,8 +74,7 @@ public:
             return container(node, depth, true);
         default:
             return std::unexpected(interchangeError(
-                kNoPropertyListForm,
-                QStringLiteral("The data holds a value that cannot be archived.")));
+                kNoPropertyListForm, tr("The data holds a value that cannot be archived.")));
         }
     }
 
@@ -205,7 +205,7 @@ public:
     Result<Plist> run(plist_t archive)
     {
         if (plist_get_node_type(archive) != PLIST_DICT) {
-            return refuse(QStringLiteral("It holds no keyed archive."));
+            return refuse(tr("It holds no keyed archive."));
         }
         plist_t archiver = plist_dict_get_item(archive, "$archiver");
         plist_t objects = plist_dict_get_item(archive, "$objects");
@@ -216,7 +216,7 @@ public:
         if ((archiver && plistString(archiver) != u"NSKeyedArchiver") || !objects ||
             plist_get_node_type(objects) != PLIST_ARRAY || !root ||
             plist_get_node_type(root) != PLIST_UID) {
-            return refuse(QStringLiteral("It holds no keyed archive."));
+            return refuse(tr("It holds no keyed archive."));
         }
         // Objects are found by number; gathered once, each is found in constant time.
         objects_ = arrayItems(objects);
@@ -236,7 +236,7 @@ public:
         }
         auto decoded = decode(root, 0);
         if (decoded && !*decoded) {
-            return refuse(QStringLiteral("Its root object is empty."));
+            return refuse(tr("Its root object is empty."));
         }
         return decoded;
     }
@@ -245,18 +245,18 @@ private:
     Result<Plist> decode(plist_t reference, int depth)
     {
         if (plist_get_node_type(reference) != PLIST_UID) {
-            return refuse(QStringLiteral("It holds %1 where an object reference belongs.")
-                              .arg(plistKindName(reference)));
+            return refuse(
+                tr("It holds %1 where an object reference belongs.").arg(plistKindName(reference)));
         }
         const uint64_t uid = uidValue(reference);
         if (uid >= count_) {
-            return refuse(QStringLiteral("It refers to object %1 of %2.").arg(uid).arg(count_));
+            return refuse(tr("It refers to object %1 of %2.").arg(uid).arg(count_));
         }
         if (budget_-- == 0) {
-            return refuse(QStringLiteral("Its objects unfold far beyond the size of the file."));
+            return refuse(tr("Its objects unfold far beyond the size of the file."));
         }
         if (depth > kMaxDepth) {
-            return refuse(QStringLiteral("Its objects nest too deeply."));
+            return refuse(tr("Its objects nest too deeply."));
         }
         if (uid == 0) {
             return Plist();  // "$null"
@@ -274,14 +274,14 @@ private:
             if (plist_t date = plistFromValue(*valueFromPlist(object))) {
                 return Plist(date);
             }
-            return refuse(QStringLiteral("A date lies too far from today."));
+            return refuse(tr("A date lies too far from today."));
         case PLIST_DICT:
             break;
         default:
-            return refuse(QStringLiteral("Object %1 is %2.").arg(uid).arg(plistKindName(object)));
+            return refuse(tr("Object %1 is %2.").arg(uid).arg(plistKindName(object)));
         }
         if (active_[uid]) {
-            return refuse(QStringLiteral("Object %1 contains itself.").arg(uid));
+            return refuse(tr("Object %1 contains itself.").arg(uid));
         }
         active_[uid] = true;
         auto result = decodeObject(object, depth);
@@ -303,7 +303,7 @@ private:
             plist_t data = member(object, "NS.data", PLIST_DATA);
             data = data ? data : member(object, "NS.bytes", PLIST_DATA);
             return data ? Result<Plist>(Plist(plist_copy(data)))
-                        : refuse(QStringLiteral("A data object holds no bytes."));
+                        : refuse(tr("A data object holds no bytes."));
         }
         case Kind::Date:
             return decodeDate(object);
@@ -314,8 +314,8 @@ private:
         case Kind::Unknown:
             break;
         }
-        return refuse(QStringLiteral("It holds an object of class “%1”, which Tamo does not read.")
-                          .arg(className));
+        return refuse(
+            tr("It holds an object of class “%1”, which Tamo does not read.").arg(className));
     }
 
     Kind kindOf(plist_t object, QString* className)
@@ -372,7 +372,7 @@ private:
         const std::vector<plist_t> keyList = keys ? arrayItems(keys) : std::vector<plist_t>();
         const std::vector<plist_t> valueList = values ? arrayItems(values) : std::vector<plist_t>();
         if (!keys || !values || keyList.size() != valueList.size()) {
-            return refuse(QStringLiteral("A dictionary has no matching keys and values."));
+            return refuse(tr("A dictionary has no matching keys and values."));
         }
         Plist dictionary(plist_new_dict());
         for (size_t i = 0; i < keyList.size(); ++i) {
@@ -381,7 +381,7 @@ private:
                 return key;
             }
             if (!*key || plist_get_node_type(key->get()) != PLIST_STRING) {
-                return refuse(QStringLiteral("A dictionary has a key that is not text."));
+                return refuse(tr("A dictionary has a key that is not text."));
             }
             auto value = decode(valueList[i], depth + 1);
             if (!value) {
@@ -399,7 +399,7 @@ private:
     {
         plist_t values = member(object, "NS.objects", PLIST_ARRAY);
         if (!values) {
-            return refuse(QStringLiteral("A list has no members."));
+            return refuse(tr("A list has no members."));
         }
         Plist array(plist_new_array());
         for (plist_t member : arrayItems(values)) {
@@ -425,7 +425,7 @@ private:
             const QByteArray text = QString::fromUtf8(data, qsizetype(length)).toUtf8();
             return Plist(plist_new_string(text.constData()));
         }
-        return refuse(QStringLiteral("A text object holds no text."));
+        return refuse(tr("A text object holds no text."));
     }
 
     Result<Plist> decodeDate(plist_t object)
@@ -433,14 +433,14 @@ private:
         plist_t time = plist_dict_get_item(object, "NS.time");
         const auto seconds = time ? valueFromPlist(time) : std::nullopt;
         if (!seconds || !seconds->isNumber()) {
-            return refuse(QStringLiteral("A date holds no time."));
+            return refuse(tr("A date holds no time."));
         }
         // To the millisecond, as the store keeps dates; the same rounding on every reading keeps
         // a date stable through any number of round trips.
         const QDateTime date = dateFromAppleTime(seconds->toDouble());
         plist_t node = date.isValid() ? plistFromValue(Value(date)) : nullptr;
         if (!node) {
-            return refuse(QStringLiteral("A date lies too far from today."));
+            return refuse(tr("A date lies too far from today."));
         }
         return Plist(node);
     }
@@ -465,7 +465,7 @@ private:
                      : nullptr;
         if (length < 0 || length > 8 || exponent < -128 || exponent > 127 || !bytes ||
             size < uint64_t(2 * length)) {
-            return refuse(QStringLiteral("A decimal number is malformed."));
+            return refuse(tr("A decimal number is malformed."));
         }
         if (length == 0) {
             // A decimal without digits is zero, or "not a number" when negative.

@@ -1,4 +1,5 @@
 #include "interchange/plistfile.h"
+#include "platform/translations.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -225,22 +226,21 @@ Result<QByteArray> readWholeFile(const QString& path, qint64 limit)
 {
     const QFileInfo info(path);
     if (!info.exists() || info.isDir()) {
-        return std::unexpected(interchangeError(
-            kFileUnreadable, QStringLiteral("The file “%1” could not be found.").arg(path)));
+        return std::unexpected(
+            interchangeError(kFileUnreadable, tr("The file “%1” could not be found.").arg(path)));
     }
     if (info.size() > limit) {
         return std::unexpected(
             interchangeError(kFileTooLarge,
-                             QStringLiteral("The file “%1” is too large to be a Tamo file (%2 MB).")
+                             tr("The file “%1” is too large to be a Tamo file (%2 MB).")
                                  .arg(info.fileName())
                                  .arg(info.size() >> 20),
-                             QStringLiteral("Nothing was read from it.")));
+                             tr("Nothing was read from it.")));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return std::unexpected(interchangeError(
-            kFileUnreadable, QStringLiteral("The file “%1” could not be read.").arg(path),
-            file.errorString()));
+            kFileUnreadable, tr("The file “%1” could not be read.").arg(path), file.errorString()));
     }
     // A file that grew after the size check is cut off and then fails to parse.
     return file.read(limit + 1);
@@ -256,9 +256,8 @@ Result<QByteArray> serializePlist(plist_t root, PlistFormat format)
         plist_to_bin(root, &data, &length);
     }
     if (!data) {
-        return std::unexpected(
-            interchangeError(kNoPropertyListForm,
-                             QStringLiteral("The data could not be written as a property list.")));
+        return std::unexpected(interchangeError(
+            kNoPropertyListForm, tr("The data could not be written as a property list.")));
     }
     QByteArray bytes(data, qsizetype(length));
     if (format == PlistFormat::Xml) {
@@ -272,8 +271,8 @@ Result<QByteArray> serializePlist(plist_t root, PlistFormat format)
 Result<Plist> parsePlist(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > kMaxInterchangeFileSize) {
-        return std::unexpected(interchangeError(
-            kNotAPropertyList, QStringLiteral("The file is empty or not a property list.")));
+        return std::unexpected(
+            interchangeError(kNotAPropertyList, tr("The file is empty or not a property list.")));
     }
     // libplist's readers recurse once per level: a list nested far enough ends the process.
     const bool binary = plist_is_binary(bytes.constData(), uint32_t(bytes.size()));
@@ -285,15 +284,15 @@ Result<Plist> parsePlist(const QByteArray& bytes)
     }
     if (shape.depth < 0 || shape.depth > kMaxPlistDepth) {
         return std::unexpected(interchangeError(
-            kNotAPropertyList,
-            shape.depth < 0 ? QStringLiteral("The file refers to itself in a loop.")
-                            : QStringLiteral("The file nests deeper than any Tamo file does.")));
+            kNotAPropertyList, shape.depth < 0
+                                   ? tr("The file refers to itself in a loop.")
+                                   : tr("The file nests deeper than any Tamo file does.")));
     }
     if (!shape.badDate.isNull()) {
-        QString message = QStringLiteral("“%1” holds “%2”, which is not a date.")
-                              .arg(shape.key, shape.badDate.left(60));
+        QString message =
+            tr("“%1” holds “%2”, which is not a date.").arg(shape.key, shape.badDate.left(60));
         if (shape.record > 0) {
-            message = QStringLiteral("Record %1: %2").arg(shape.record).arg(message);
+            message = tr("Record %1: %2").arg(shape.record).arg(message);
         }
         return std::unexpected(interchangeError(kNotAPropertyList, message));
     }
@@ -305,9 +304,8 @@ Result<Plist> parsePlist(const QByteArray& bytes)
         plist_from_xml(bytes.constData(), length, &root);
     }
     if (!root) {
-        return std::unexpected(
-            interchangeError(kNotAPropertyList,
-                             QStringLiteral("The file is not a property list, or it is damaged.")));
+        return std::unexpected(interchangeError(
+            kNotAPropertyList, tr("The file is not a property list, or it is damaged.")));
     }
     return Plist(root);
 }
@@ -321,8 +319,7 @@ Result<Plist> readPlistFile(const QString& path)
     auto parsed = parsePlist(*bytes);
     if (!parsed) {
         Error e = parsed.error();
-        e.message =
-            QStringLiteral("The file “%1” could not be read.").arg(QFileInfo(path).fileName());
+        e.message = tr("The file “%1” could not be read.").arg(QFileInfo(path).fileName());
         e.reason = parsed.error().message;
         return std::unexpected(e);
     }
@@ -417,22 +414,22 @@ QString plistKindName(plist_t node)
 {
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN:
-        return QStringLiteral("a yes/no value");
+        return tr("a yes/no value");
     case PLIST_UINT:
     case PLIST_REAL:
-        return QStringLiteral("a number");
+        return tr("a number");
     case PLIST_STRING:
-        return QStringLiteral("text");
+        return tr("text");
     case PLIST_ARRAY:
-        return QStringLiteral("a list");
+        return tr("a list");
     case PLIST_DICT:
-        return QStringLiteral("a record");
+        return tr("a record");
     case PLIST_DATE:
-        return QStringLiteral("a date");
+        return tr("a date");
     case PLIST_DATA:
-        return QStringLiteral("binary data");
+        return tr("binary data");
     default:
-        return QStringLiteral("an object reference");
+        return tr("an object reference");
     }
 }
 

@@ -1,4 +1,5 @@
 #include "interchange/recorddictionary.h"
+#include "platform/translations.h"
 
 #include <QSet>
 #include <algorithm>
@@ -34,15 +35,15 @@ QString typeName(AttributeType type)
 {
     switch (type) {
     case AttributeType::String:
-        return QStringLiteral("text");
+        return tr("text");
     case AttributeType::Integer:
-        return QStringLiteral("a whole number");
+        return tr("a whole number");
     case AttributeType::Boolean:
-        return QStringLiteral("a yes/no value");
+        return tr("a yes/no value");
     case AttributeType::Decimal:
-        return QStringLiteral("a number");
+        return tr("a number");
     case AttributeType::Date:
-        return QStringLiteral("a date");
+        return tr("a date");
     }
     return {};
 }
@@ -55,7 +56,7 @@ Result<Value> attributeValue(plist_t node, std::string_view key, AttributeType t
     const auto raw = valueFromPlist(node);
     const auto wrong = [&] {
         return std::unexpected(
-            dictionaryError(QStringLiteral("“%1” holds %2 where %3 belongs")
+            dictionaryError(tr("“%1” holds %2 where %3 belongs")
                                 .arg(qs(key), plistKindName(node), typeName(type))));
     };
     if (!raw) {
@@ -65,9 +66,9 @@ Result<Value> attributeValue(plist_t node, std::string_view key, AttributeType t
     if (type == AttributeType::Integer && value.type() == AttributeType::Decimal) {
         const double d = value.toDouble();
         if (!std::isfinite(d) || d < -2147483648.0 || d >= 2147483648.0) {
-            return std::unexpected(dictionaryError(
-                QStringLiteral("“%1” holds %2, which is too large for a whole number")
-                    .arg(qs(key), QString::number(d, 'g', 17))));
+            return std::unexpected(
+                dictionaryError(tr("“%1” holds %2, which is too large for a whole number")
+                                    .arg(qs(key), QString::number(d, 'g', 17))));
         }
     }
     auto stored = value.coerced(type);
@@ -82,9 +83,8 @@ Result<void> checkRange(const EntityDescription& entity, std::string_view key, c
 {
     if (entity.name() == "Invoice" && key == "status" && !value.isNull() &&
         (value.toInt() < 0 || value.toInt() > 4)) {
-        return std::unexpected(
-            dictionaryError(QStringLiteral("“status” holds %1, which is no status (0 to 4)")
-                                .arg(value.toString())));
+        return std::unexpected(dictionaryError(
+            tr("“status” holds %1, which is no status (0 to 4)").arg(value.toString())));
     }
     return {};
 }
@@ -108,7 +108,7 @@ public:
                           int depth)
     {
         if (depth > kMaxDepth) {
-            return std::unexpected(dictionaryError(QStringLiteral("the records nest too deeply")));
+            return std::unexpected(dictionaryError(tr("the records nest too deeply")));
         }
         return forEachDictionaryEntry(
             dictionary, [&](std::string_view key, plist_t node) -> Result<void> {
@@ -140,9 +140,8 @@ public:
                 if (const int r = entity.relationshipIndex(key); r >= 0 && key == attributeKey) {
                     return relate(entity.relationships()[size_t(r)], record, node, depth);
                 }
-                return std::unexpected(
-                    dictionaryError(QStringLiteral("a record of kind %1 has no entry “%2”")
-                                        .arg(entity.qName(), qs(key))));
+                return std::unexpected(dictionaryError(
+                    tr("a record of kind %1 has no entry “%2”").arg(entity.qName(), qs(key))));
             });
     }
 
@@ -158,7 +157,7 @@ private:
                 auto member = nested(relationship, entries[i], depth);
                 if (!member) {
                     return std::unexpected(
-                        within(member.error(), QStringLiteral("%1, entry %2").arg(key).arg(i + 1)));
+                        within(member.error(), tr("%1, entry %2").arg(key).arg(i + 1)));
                 }
                 if (owner) {
                     owner->addToMany(relationship.key, *member);
@@ -176,26 +175,25 @@ private:
             }
             return {};
         }
-        return std::unexpected(
-            dictionaryError(QStringLiteral("“%1” holds %2 where %3 belongs")
-                                .arg(key, plistKindName(node),
-                                     relationship.toMany ? QStringLiteral("a list of records")
-                                                         : QStringLiteral("a record"))));
+        return std::unexpected(dictionaryError(
+            tr("“%1” holds %2 where %3 belongs")
+                .arg(key, plistKindName(node),
+                     relationship.toMany ? tr("a list of records") : tr("a record"))));
     }
 
     Result<Record*> nested(const RelationshipDescription& relationship, plist_t node, int depth)
     {
         if (plist_get_node_type(node) != PLIST_DICT) {
-            return std::unexpected(dictionaryError(
-                QStringLiteral("%1 stands where a record belongs").arg(plistKindName(node))));
+            return std::unexpected(
+                dictionaryError(tr("%1 stands where a record belongs").arg(plistKindName(node))));
         }
         const EntityDescription& destination = *Model::tamo().entity(relationship.destination);
         if (plist_t name = plist_dict_get_item(node, "class")) {
             const QString className = plistString(name);
             if (className != destination.qName()) {
-                return std::unexpected(dictionaryError(
-                    QStringLiteral("a record of kind “%1” stands where one of kind %2 belongs")
-                        .arg(className, destination.qName())));
+                return std::unexpected(
+                    dictionaryError(tr("a record of kind “%1” stands where one of kind %2 belongs")
+                                        .arg(className, destination.qName())));
             }
         }
         return create(destination, node, depth + 1);
@@ -216,8 +214,8 @@ QString recordLabel(uint32_t position, plist_t dictionary)
             name = plistString(node).left(60);
         }
     }
-    return name.isEmpty() ? QStringLiteral("Record %1").arg(position)
-                          : QStringLiteral("Record %1 (%2)").arg(position).arg(name);
+    return name.isEmpty() ? tr("Record %1").arg(position)
+                          : tr("Record %1 (%2)").arg(position).arg(name);
 }
 
 // Records are found again by their uniqueID (the list filter, notifications, the command line):
@@ -255,9 +253,9 @@ const EntityDescription* entityNamed(const Context& context, plist_t dictionary,
     }
     const EntityDescription* entity = context.model().entity(name.toStdString());
     if (!entity) {
-        *error = dictionaryError(
-            name.isEmpty() ? QStringLiteral("a record names no kind")
-                           : QStringLiteral("there are no records of kind “%1”").arg(name));
+        *error =
+            dictionaryError(name.isEmpty() ? tr("a record names no kind")
+                                           : tr("there are no records of kind “%1”").arg(name));
     }
     return entity;
 }
@@ -281,8 +279,8 @@ Result<Plist> write(const Record& record, TraversalHistory& history)
         if (!node) {
             return std::unexpected(interchangeError(
                 kNoPropertyListForm,
-                QStringLiteral("The %1 record %2 holds %3 in “%4”, which a property list cannot "
-                               "hold.")
+                tr("The %1 record %2 holds %3 in “%4”, which a property list cannot "
+                   "hold.")
                     .arg(entity.qName(), record.uniqueID(), value.toString(),
                          qs(attributes[i].key))));
         }
@@ -354,8 +352,8 @@ Value decodedValueFrom(const Value& value, std::string_view key)
 Result<void> checkDictionary(plist_t dictionary, const EntityDescription& entity)
 {
     if (plist_get_node_type(dictionary) != PLIST_DICT) {
-        return std::unexpected(dictionaryError(
-            QStringLiteral("%1 stands where a record belongs").arg(plistKindName(dictionary))));
+        return std::unexpected(
+            dictionaryError(tr("%1 stands where a record belongs").arg(plistKindName(dictionary))));
     }
     return DictionaryWalker(nullptr).populate(entity, nullptr, dictionary, 0);
 }
@@ -369,8 +367,8 @@ Result<Record*> createManagedObjectFromDictionary(plist_t dictionary, Context& c
                                                   std::string_view entityName, int* renamed)
 {
     if (plist_get_node_type(dictionary) != PLIST_DICT) {
-        return std::unexpected(dictionaryError(
-            QStringLiteral("%1 stands where a record belongs").arg(plistKindName(dictionary))));
+        return std::unexpected(
+            dictionaryError(tr("%1 stands where a record belongs").arg(plistKindName(dictionary))));
     }
     Error error;
     const EntityDescription* entity = entityNamed(context, dictionary, entityName, &error);
@@ -395,9 +393,8 @@ Result<std::vector<Record*>> createManagedObjectsFromList(Plist owned, Context& 
 {
     plist_t list = owned.get();
     if (plist_get_node_type(list) != PLIST_ARRAY) {
-        return std::unexpected(
-            dictionaryError(QStringLiteral("It holds %1 where a list of records belongs.")
-                                .arg(plistKindName(list))));
+        return std::unexpected(dictionaryError(
+            tr("It holds %1 where a list of records belongs.").arg(plistKindName(list))));
     }
     const EntityDescription& entity = *context.model().entity(entityName);
     const std::vector<plist_t> entries = arrayItems(list);

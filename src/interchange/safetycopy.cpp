@@ -7,6 +7,7 @@
 #include "interchange/datainterchange.h"
 #include "interchange/recorddictionary.h"
 #include "interchange/storefiles.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -68,7 +69,7 @@ ActionResult DataInterchange::doTheNewBackup()
     QDir().mkpath(QFileInfo(backupPath_).absolutePath());
     if (auto written = writeFileAtomically(backupPath_, *xml); !written) {
         Error e = written.error();
-        e.message = QStringLiteral("The safety copy of your invoices was not written.");
+        e.message = tr("The safety copy of your invoices was not written.");
         return failed(e);
     }
     return ActionResult::Done;
@@ -77,20 +78,19 @@ ActionResult DataInterchange::doTheNewBackup()
 ActionResult DataInterchange::restoreFromBackup()
 {
     if (!QFileInfo(backupPath_).isFile()) {
-        prompter_.ask({QStringLiteral("Error!"),
-                       QStringLiteral("No valid backup file available. Please restore your Tamo "
-                                      "database from your own (Time Machine) backups."),
-                       {QStringLiteral("OK")}});
+        prompter_.ask({tr("Error!"),
+                       tr("No valid backup file available. Please restore your Tamo database "
+                          "from your own (Time Machine) backups."),
+                       {tr("OK")}});
         return ActionResult::Failed;
     }
     if (!session_.managedObjectContext()) {
         return ActionResult::Failed;
     }
     if (!confirmed(
-            QStringLiteral("You are about to restore your Tamo invoices from the safety copy. "
-                           "This will irretrievably replace any existing invoices. Do you "
-                           "really want to do that?"),
-            QStringLiteral("Restore…"))) {
+            tr("You are about to restore your Tamo invoices from the safety copy. This will "
+               "irretrievably replace any existing invoices. Do you really want to do that?"),
+            tr("Restore…"))) {
         return ActionResult::Cancelled;
     }
     return replaceWithRecords(session_.documents().arranged(), backupPath_, "Invoice",

@@ -8,6 +8,7 @@
 #include "interchange/plistfile.h"
 #include "interchange/storefiles.h"
 #include "platform/profile.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -45,7 +46,7 @@ ActionResult DataInterchange::replaceStore(const QString& candidate, const QStri
         QFile::remove(incoming);
         logLine(log.copyFailed, checked.error());
         Error e = checked.error();
-        e.reason = (e.reason + QStringLiteral(" Nothing was changed.")).trimmed();
+        e.reason = (e.reason + u' ' + tr("Nothing was changed.")).trimmed();
         return failed(e);
     }
     if (!snapshot(reason)) {
@@ -60,8 +61,8 @@ ActionResult DataInterchange::replaceStore(const QString& candidate, const QStri
         logLine(open ? log.replaceFailed : log.reopenFailed, reloaded.error());
         Error e = reloaded.error();
         if (!open) {
-            e.reason = (e.reason + QStringLiteral(" Tamo has no database until it starts again."))
-                           .trimmed();
+            e.reason =
+                (e.reason + u' ' + tr("Tamo has no database until it starts again.")).trimmed();
         }
         return failed(e);
     }
@@ -79,12 +80,11 @@ ActionResult DataInterchange::backupCompleteTamoData()
     session_.saveContext();
     if (session_.context()->hasChanges()) {
         return failed(interchangeError(
-            kStoreFileProblem, QStringLiteral("The database was not backed up."),
-            QStringLiteral("Your latest changes could not be saved first; please check them.")));
+            kStoreFileProblem, tr("The database was not backed up."),
+            tr("Your latest changes could not be saved first; please check them.")));
     }
-    const auto chosen = prompter_.chooseFileToSave(
-        savePanel(QStringLiteral("Backup E-Tamo Database"), QStringLiteral("zqdb"),
-                  QStringLiteral("E-Tamo Database")));
+    const auto chosen = prompter_.chooseFileToSave(savePanel(
+        tr("Backup E-Tamo Database"), QStringLiteral("zqdb"), QStringLiteral("E-Tamo Database")));
     if (!chosen) {
         return ActionResult::Cancelled;
     }
@@ -121,14 +121,14 @@ ActionResult DataInterchange::backupCompleteTamoData()
 ActionResult DataInterchange::restoreCompleteTamoData()
 {
     session_.contextIfItOpens();  // a store that cannot be opened may still be replaced
-    if (!confirmed(QStringLiteral("You are about to restore your entire E-Tamo database from a "
-                                  "backup. This will irretrievably replace any existing data. Do "
-                                  "you really want to do that?"),
-                   QStringLiteral("Restore…"))) {
+    if (!confirmed(tr("You are about to restore your entire E-Tamo database from a backup. This "
+                      "will irretrievably replace any existing data. Do you really want to do "
+                      "that?"),
+                   tr("Restore…"))) {
         return ActionResult::Cancelled;
     }
     const auto path = prompter_.chooseFileToOpen(
-        openPanel(QStringLiteral("Restore E-Tamo Database"), QStringLiteral("tamo2db")));
+        openPanel(tr("Restore E-Tamo Database"), QStringLiteral("tamo2db")));
     if (!path) {
         return ActionResult::Cancelled;
     }
@@ -144,9 +144,9 @@ ActionResult DataInterchange::backupCDAction()
         qCWarning(lcInterchange) << "No persistent store found.";
         return ActionResult::Failed;
     }
-    const auto path = prompter_.chooseFileToSave(
-        savePanel(QStringLiteral("Backup Raw Database"), QStringLiteral("sqlite"),
-                  QStringLiteral("E-Tamo Database Backup.sqlite")));
+    const auto path =
+        prompter_.chooseFileToSave(savePanel(tr("Backup Raw Database"), QStringLiteral("sqlite"),
+                                             QStringLiteral("E-Tamo Database Backup.sqlite")));
     if (!path) {
         return ActionResult::Cancelled;
     }
@@ -165,14 +165,14 @@ ActionResult DataInterchange::restoreCDAction()
         qCWarning(lcInterchange) << "No persistent store found.";
         return ActionResult::Failed;
     }
-    if (!confirmed(QStringLiteral("You are about to replace your entire E-Tamo database with a raw "
-                                  "copy of a database file. This will irretrievably replace any "
-                                  "existing data. Do you really want to do that?"),
-                   QStringLiteral("Restore…"))) {
+    if (!confirmed(tr("You are about to replace your entire E-Tamo database with a raw copy of a "
+                      "database file. This will irretrievably replace any existing data. Do you "
+                      "really want to do that?"),
+                   tr("Restore…"))) {
         return ActionResult::Cancelled;
     }
-    const auto path = prompter_.chooseFileToOpen(
-        openPanel(QStringLiteral("Restore Raw Database"), QStringLiteral("sqlite")));
+    const auto path =
+        prompter_.chooseFileToOpen(openPanel(tr("Restore Raw Database"), QStringLiteral("sqlite")));
     if (!path) {
         return ActionResult::Cancelled;
     }
@@ -205,18 +205,17 @@ ActionResult DataInterchange::restoreAutomaticallyFromSandbox()
 {
     const QString source = sandboxStorePath();
     if (!QFileInfo::exists(source)) {
-        prompter_.ask({QStringLiteral("Error!"),
-                       QStringLiteral("Could not restore Tamo database automatically. Please do "
-                                      "this by hand. In case of problems, simply contact the Sorel "
-                                      "support."),
-                       {QStringLiteral("OK")}});
+        prompter_.ask({tr("Error!"),
+                       tr("Could not restore Tamo database automatically. Please do this by hand. "
+                          "In case of problems, simply contact the Sorel support."),
+                       {tr("OK")}});
         return ActionResult::Failed;
     }
     session_.contextIfItOpens();
-    if (!confirmed(QStringLiteral("You are about to move the database of Tamo's Flatpak edition "
-                                  "here. This will irretrievably replace any existing data. Do you "
-                                  "really want to do that?"),
-                   QStringLiteral("Move…"))) {
+    if (!confirmed(tr("You are about to move the database of Tamo's Flatpak edition here. This "
+                      "will irretrievably replace any existing data. Do you really want to do "
+                      "that?"),
+                   tr("Move…"))) {
         return ActionResult::Cancelled;
     }
     qCInfo(lcInterchange).noquote()
@@ -237,24 +236,23 @@ ActionResult DataInterchange::recoverPreviousDatabase()
 {
     const QString folder = session_.profile().recoveryFolder;
     if (recoverySnapshots().isEmpty()) {
-        prompter_.ask({QStringLiteral("Hint!"),
-                       QStringLiteral("There is no recovery copy yet. Tamo writes one before every "
-                                      "restore that replaces stored data."),
-                       {QStringLiteral("OK")}});
+        prompter_.ask({tr("Hint!"),
+                       tr("There is no recovery copy yet. Tamo writes one before every restore "
+                          "that replaces stored data."),
+                       {tr("OK")}});
         return ActionResult::Cancelled;
     }
     session_.contextIfItOpens();
-    FileRequest panel = openPanel(QStringLiteral("Recover Previous Database"), u"zqdb"_qs);
+    FileRequest panel = openPanel(tr("Recover Previous Database"), u"zqdb"_qs);
     panel.directory = folder;
     const auto path = prompter_.chooseFileToOpen(panel);
     if (!path) {
         return ActionResult::Cancelled;
     }
-    if (!confirmed(QStringLiteral("You are about to return to the database as it was in “%1”. "
-                                  "What is stored now is kept as another recovery copy. Do you "
-                                  "want to do that?")
+    if (!confirmed(tr("You are about to return to the database as it was in “%1”. What is stored "
+                      "now is kept as another recovery copy. Do you want to do that?")
                        .arg(QFileInfo(*path).completeBaseName()),
-                   QStringLiteral("Recover…"))) {
+                   tr("Recover…"))) {
         return ActionResult::Cancelled;
     }
     return replaceStore(*path, QStringLiteral("recoverPreviousDatabase"),

@@ -31,7 +31,7 @@ Result<void> renameOver(const QString& source, const QString& target)
                             QFile::encodeName(target).toStdString(), error);
     if (error) {
         return std::unexpected(
-            storeError(QStringLiteral("The file “%1” could not be put in place.").arg(target),
+            storeError(tr("The file “%1” could not be put in place.").arg(target),
                        QString::fromLocal8Bit(error.message())));
     }
     return {};
@@ -40,8 +40,7 @@ Result<void> renameOver(const QString& source, const QString& target)
 Result<void> removeIfPresent(const QString& path)
 {
     if (QFileInfo::exists(path) && !QFile::remove(path)) {
-        return std::unexpected(
-            storeError(QStringLiteral("The file “%1” could not be removed.").arg(path)));
+        return std::unexpected(storeError(tr("The file “%1” could not be removed.").arg(path)));
     }
     return {};
 }

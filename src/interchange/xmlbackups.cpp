@@ -51,8 +51,7 @@ ActionResult DataInterchange::failed(const Error& error)
 
 bool DataInterchange::confirmed(const QString& text, const QString& button)
 {
-    return prompter_.ask({QStringLiteral("Warning!"), text, {button, QStringLiteral("Cancel")}}) ==
-           button;
+    return prompter_.ask({tr("Warning!"), text, {button, tr("Cancel")}}) == button;
 }
 
 QString DataInterchange::liveStorePath() const
@@ -103,7 +102,7 @@ ActionResult DataInterchange::writeXml(const std::vector<Record*>& records,
     }
     if (!xml) {
         Error e = xml.error();
-        e.reason = QStringLiteral("No file was written.");
+        e.reason = tr("No file was written.");
         return failed(e);
     }
     const auto path = prompter_.chooseFileToSave(panel);
@@ -123,7 +122,7 @@ ActionResult DataInterchange::exportTamoDataXML()
         return ActionResult::Failed;
     }
     return writeXml(context->fetch("Invoice"),
-                    savePanel(QStringLiteral("Export Tamo Database As XML"), QStringLiteral("xml"),
+                    savePanel(tr("Export Tamo Database As XML"), QStringLiteral("xml"),
                               QStringLiteral("Tamo Database")));
 }
 
@@ -132,9 +131,8 @@ ActionResult DataInterchange::exportItems()
     if (!session_.managedObjectContext()) {
         return ActionResult::Failed;
     }
-    return writeXml(
-        session_.documents().arranged(),
-        savePanel(QStringLiteral("Export Tamo Database As XML"), QStringLiteral("xml"), QString()));
+    return writeXml(session_.documents().arranged(),
+                    savePanel(tr("Export Tamo Database As XML"), QStringLiteral("xml"), QString()));
 }
 
 ActionResult DataInterchange::backupTamoData()
@@ -145,8 +143,8 @@ ActionResult DataInterchange::backupTamoData()
     }
     session_.saveContext();
     return writeXml(context->fetch("Invoice"),
-                    savePanel(QStringLiteral("Backup Tamo Invoices"),
-                              QStringLiteral("tamoinvoices"), QStringLiteral("Tamo Invoices")));
+                    savePanel(tr("Backup Tamo Invoices"), QStringLiteral("tamoinvoices"),
+                              QStringLiteral("Tamo Invoices")));
 }
 
 ActionResult DataInterchange::backupItems()
@@ -157,7 +155,7 @@ ActionResult DataInterchange::backupItems()
     }
     session_.saveContext();
     return writeXml(context->fetch("RecentItem"),
-                    savePanel(QStringLiteral("Backup Tamo Items"), QStringLiteral("tamoitems"),
+                    savePanel(tr("Backup Tamo Items"), QStringLiteral("tamoitems"),
                               QStringLiteral("Tamo Items")));
 }
 
@@ -165,19 +163,18 @@ ActionResult DataInterchange::restoreTamoData()
 {
     return restoreRecords(
         "Invoice",
-        QStringLiteral("You are about to restore your Tamo invoices from a backup. "
-                       "This will irretrievably replace any existing invoices. "
-                       "Do you really want to do that?"),
-        QStringLiteral("Restore Tamo Invoices"), QStringLiteral("tamoinvoices"));
+        tr("You are about to restore your Tamo invoices from a backup. This will irretrievably "
+           "replace any existing invoices. Do you really want to do that?"),
+        tr("Restore Tamo Invoices"), QStringLiteral("tamoinvoices"));
 }
 
 ActionResult DataInterchange::restoreItems()
 {
     return restoreRecords("RecentItem",
-                          QStringLiteral("You are about to restore your Tamo items from a backup. "
-                                         "This will irretrievably replace any existing items. Do "
-                                         "you really want to do that?"),
-                          QStringLiteral("Restore Tamo Items"), QStringLiteral("tamoitems"));
+                          tr("You are about to restore your Tamo items from a backup. This will "
+                             "irretrievably replace any existing items. Do you really want to do "
+                             "that?"),
+                          tr("Restore Tamo Items"), QStringLiteral("tamoitems"));
 }
 
 ActionResult DataInterchange::restoreRecords(const char* entity, const QString& warning,
@@ -187,7 +184,7 @@ ActionResult DataInterchange::restoreRecords(const char* entity, const QString& 
     if (!context) {
         return ActionResult::Failed;
     }
-    if (!confirmed(warning, QStringLiteral("Restore…"))) {
+    if (!confirmed(warning, tr("Restore…"))) {
         return ActionResult::Cancelled;
     }
     const auto path = prompter_.chooseFileToOpen(openPanel(title, extension));
@@ -214,7 +211,7 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
     Result<void> outcome;
     int renamed = 0;
     {
-        UndoGroup group(context, QStringLiteral("Restore"));
+        UndoGroup group(context, tr("Restore"));
         WithoutUndo quiet(context);
         for (Record* record : shown) {
             context.remove(record);
@@ -235,8 +232,7 @@ ActionResult DataInterchange::replaceWithRecords(const std::vector<Record*>& sho
         Error e = outcome.error();
         if (e.code != kFileUnreadable && e.code != kFileTooLarge && e.code != kNotAPropertyList) {
             e.reason = e.message;
-            e.message = QStringLiteral("The file “%1” could not be restored.")
-                            .arg(QFileInfo(path).fileName());
+            e.message = tr("The file “%1” could not be restored.").arg(QFileInfo(path).fileName());
         }
         // After failures in a row the newest copy may hold the emptied store: the message names
         // the one that holds the data.
@@ -278,9 +274,8 @@ ActionResult DataInterchange::exportAsInvoiceFile()
         return ActionResult::Failed;
     }
     session_.saveContext();
-    const auto path = prompter_.chooseFileToSave(
-        savePanel(QStringLiteral("Export As Invoices Dump"), QStringLiteral("invdump"),
-                  QStringLiteral("Invoices Dump")));
+    const auto path = prompter_.chooseFileToSave(savePanel(
+        tr("Export As Invoices Dump"), QStringLiteral("invdump"), QStringLiteral("Invoices Dump")));
     if (!path) {
         return ActionResult::Cancelled;
     }
@@ -312,25 +307,23 @@ ActionResult DataInterchange::importInvoice()
         return ActionResult::Failed;
     }
     if (!confirmed(
-            QStringLiteral(
-                "The integrity of your data is your responsibility, and yours alone. Tamo is "
-                "just a stupid App and by design it can't know or care about duplicate "
-                "invoices, messed up numbers, or if you're having a bad hair day. So please, "
-                "do yourself a favor and check what you are doing here. Do you still want to "
-                "import the invoice?"),
-            QStringLiteral("Import…"))) {
+            tr("The integrity of your data is your responsibility, and yours alone. Tamo is just "
+               "a stupid App and by design it can't know or care about duplicate invoices, "
+               "messed up numbers, or if you're having a bad hair day. So please, do yourself a "
+               "favor and check what you are doing here. Do you still want to import the "
+               "invoice?"),
+            tr("Import…"))) {
         return ActionResult::Cancelled;
     }
-    const auto path = prompter_.chooseFileToOpen(
-        openPanel(QStringLiteral("Import Tamo Document"), QStringLiteral("tamo")));
+    const auto path =
+        prompter_.chooseFileToOpen(openPanel(tr("Import Tamo Document"), QStringLiteral("tamo")));
     if (!path) {
         return ActionResult::Cancelled;
     }
     const auto refused = [&](const Error& e) {
-        return failed(interchangeError(e.code,
-                                       QStringLiteral("The document “%1” could not be imported.")
-                                           .arg(QFileInfo(*path).fileName()),
-                                       e.reason.isEmpty() ? e.message : e.reason));
+        return failed(interchangeError(
+            e.code, tr("The document “%1” could not be imported.").arg(QFileInfo(*path).fileName()),
+            e.reason.isEmpty() ? e.message : e.reason));
     };
     auto bytes = readWholeFile(*path);
     if (!bytes) {
@@ -344,12 +337,12 @@ ActionResult DataInterchange::importInvoice()
                            ? plist_dict_get_item(root->get(), "tamoDic")
                            : nullptr;
     if (!document) {
-        return refused(interchangeError(kWrongContent, QStringLiteral("It holds no document.")));
+        return refused(interchangeError(kWrongContent, tr("It holds no document.")));
     }
     Result<Record*> imported;
     int renamed = 0;
     {
-        UndoGroup group(*context, QStringLiteral("Import Document"));
+        UndoGroup group(*context, tr("Import Document"));
         imported = createManagedObjectFromDictionary(document, *context, "Invoice", &renamed);
     }
     if (!imported) {
@@ -364,11 +357,11 @@ ActionResult DataInterchange::importInvoice()
 bool DataInterchange::openFile(const QString& path)
 {
     qCInfo(lcInterchange).noquote() << "Asked to open" << path;
-    prompter_.ask({QStringLiteral("Tamo, Tamo Documents, and the Tamo Database"),
-                   QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the "
-                                  "database intact - please use the 'File Menu' to open documents "
-                                  "and to restore the Tamo database."),
-                   {QStringLiteral("OK")}});
+    prompter_.ask({tr("Tamo, Tamo Documents, and the Tamo Database"),
+                   tr("In order to avoid duplicate entries, hiccups, and to keep the database "
+                      "intact - please use the 'File Menu' to open documents and to restore the "
+                      "Tamo database."),
+                   {tr("OK")}});
     return true;
 }
 
