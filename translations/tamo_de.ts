@@ -764,6 +764,10 @@
       <translation>die Rechnungen des Zeitraums (vorgegeben: alle angezeigten) als kelvaneExport.ldxtamo oder .kelvtamo, an den Desktop übergeben; kind 0 alle versendeten Rechnungen, 1 bezahlte, 2 überfällige; --items behält die Positionen jeder Rechnung statt einer Zusammenfassung; gibt den Pfad der Datei aus</translation>
     </message>
     <message>
+      <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
+      <translation>Die ausgewählte Rechnung ist als bereits versendet markiert. Wenn Sie wirklich etwas ändern müssen, setzen Sie ihren Status bitte zuerst auf „Erstellt“ zurück. Dann können Sie die geänderte Rechnung auch erneut versenden.</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>„%1“ ist keine Zahl, mit der Tamo rechnen kann.</translation>
     </message>
@@ -1673,6 +1677,22 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Bitte aktualisieren Sie Tamo, um ihn zu öffnen.</translation>
     </message>
     <message>
+      <source>Expected a folder to store application data, found a file (%1).</source>
+      <translation>Für die Daten der Anwendung wurde ein Ordner erwartet, aber eine Datei gefunden (%1).</translation>
+    </message>
+    <message>
+      <source>The folder %1 could not be created.</source>
+      <translation>Der Ordner %1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+      <source>Please check that you may write to its parent folder.</source>
+      <translation>Bitte prüfen Sie, ob Sie in den übergeordneten Ordner schreiben dürfen.</translation>
+    </message>
+    <message>
+      <source>The file %1 could not be replaced.</source>
+      <translation>Die Datei %1 konnte nicht ersetzt werden.</translation>
+    </message>
+    <message>
       <source>The disk is full.</source>
       <translation>Der Datenträger ist voll.</translation>
     </message>
@@ -1821,6 +1841,14 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Ihre Daten wiederherstellen</translation>
     </message>
     <message>
+      <source>Failed to initialize the store</source>
+      <translation>Der Datenbestand konnte nicht eingerichtet werden</translation>
+    </message>
+    <message>
+      <source>There was an error building up the data file.</source>
+      <translation>Beim Aufbau der Datendatei ist ein Fehler aufgetreten.</translation>
+    </message>
+    <message>
       <source>It is in use by %1; this is a snapshot of it.</source>
       <translation>Er wird von %1 verwendet; dies ist eine Momentaufnahme davon.</translation>
     </message>
@@ -1847,6 +1875,18 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Your change was not kept.</source>
       <translation>Ihre Änderung wurde nicht übernommen.</translation>
+    </message>
+    <message>
+      <source>Quit anyway</source>
+      <translation>Trotzdem beenden</translation>
+    </message>
+    <message>
+      <source>Could not save changes while quitting. Quit anyway?</source>
+      <translation>Die Änderungen konnten beim Beenden nicht gespeichert werden. Trotzdem beenden?</translation>
+    </message>
+    <message>
+      <source>Quitting now will lose any changes you have made since the last successful save</source>
+      <translation>Wenn Sie jetzt beenden, gehen alle Änderungen seit dem letzten erfolgreichen Speichern verloren</translation>
     </message>
     <message>
       <source>The data nests too deeply to be archived.</source>
@@ -1967,6 +2007,22 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>Choose Client…</source>
       <translation>Kunde auswählen …</translation>
+    </message>
+    <message>
+      <source>You have one ore more broken vcards in your %1; probably from a corrupted iCloud sync.
+
+Please open your %1 and delete it or them. Usually, they are very easy to spot. Just look for 'No Name' or '(null)' and you may need to do this on your others devices as well, in case it is happening again.
+
+After doing that, just restart Tamo and you will be able to select people and addresses without any problems.</source>
+      <translation>In Ihrem %1 sind eine oder mehrere beschädigte vCards, wahrscheinlich durch eine fehlerhafte iCloud-Synchronisation.
+
+Bitte öffnen Sie Ihr %1 und löschen Sie die betroffenen Einträge. Meist sind sie sehr leicht zu erkennen: Suchen Sie einfach nach „No Name“ oder „(null)“. Falls es erneut passiert, müssen Sie das eventuell auch auf Ihren anderen Geräten tun.
+
+Starten Sie Tamo danach einfach neu, dann können Sie Personen und Adressen problemlos auswählen.</translation>
+    </message>
+    <message>
+      <source>You need to provide an address pattern in the Preferences.</source>
+      <translation>Sie müssen in den Einstellungen ein Adressmuster angeben.</translation>
     </message>
     <message>
       <source>Set Client</source>
@@ -2773,20 +2829,64 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Duplizieren</translation>
     </message>
     <message>
+      <source>Sorry!</source>
+      <translation>Tut uns leid!</translation>
+    </message>
+    <message>
+      <source>You can't convert an invoice into a quote.</source>
+      <translation>Eine Rechnung kann nicht in ein Angebot umgewandelt werden.</translation>
+    </message>
+    <message>
+      <source>Convert</source>
+      <translation>Umwandeln</translation>
+    </message>
+    <message>
       <source>Convert Into Invoice</source>
       <translation>In Rechnung umwandeln</translation>
+    </message>
+    <message>
+      <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the boilerplate text, the counter for your invoice numbering, and you can't undo this action.</source>
+      <translation>Möchten Sie das ausgewählte Angebot wirklich in eine Rechnung umwandeln? Dabei ändern sich auch der Titel, die Textbausteine und der Zähler Ihrer Rechnungsnummern, und Sie können diesen Schritt nicht rückgängig machen.</translation>
+    </message>
+    <message>
+      <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
+      <translation>Die ausgewählte Rechnung ist als bereits versendet markiert. Wenn Sie sie wirklich löschen müssen, setzen Sie ihren Status bitte zuerst auf „Erstellt“ zurück.</translation>
     </message>
     <message>
       <source>Delete Quote</source>
       <translation>Angebot löschen</translation>
     </message>
     <message>
+      <source>Deleting quotes is permanent and cannot be undone. Do you really want to delete the selected quote?</source>
+      <translation>Das Löschen von Angeboten ist endgültig und kann nicht rückgängig gemacht werden. Möchten Sie das ausgewählte Angebot wirklich löschen?</translation>
+    </message>
+    <message>
       <source>Delete Invoice</source>
       <translation>Rechnung löschen</translation>
     </message>
     <message>
+      <source>Deleting invoices is permanent and cannot be undone. Do you really want to delete the selected invoice?</source>
+      <translation>Das Löschen von Rechnungen ist endgültig und kann nicht rückgängig gemacht werden. Möchten Sie die ausgewählte Rechnung wirklich löschen?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your quote counter so that you won't use the same quote number twice?</source>
+      <translation>Soll Tamo Ihren Angebotszähler automatisch anpassen, damit Sie dieselbe Angebotsnummer nicht zweimal vergeben?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your invoice counter so that you won't use the same invoice number twice?</source>
+      <translation>Soll Tamo Ihren Rechnungszähler automatisch anpassen, damit Sie dieselbe Rechnungsnummer nicht zweimal vergeben?</translation>
+    </message>
+    <message>
       <source>Set Delivery Date</source>
       <translation>Lieferdatum festlegen</translation>
+    </message>
+    <message>
+      <source>Notification Already Created</source>
+      <translation>Benachrichtigung bereits angelegt</translation>
+    </message>
+    <message>
+      <source>You've already created a notification for this invoice. Do you really want to create another one?</source>
+      <translation>Sie haben für diese Rechnung bereits eine Benachrichtigung angelegt. Möchten Sie wirklich noch eine anlegen?</translation>
     </message>
     <message>
       <source>Schedule Notification</source>
@@ -3360,6 +3460,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Tax %1</source>
       <translation>Steuer %1</translation>
+    </message>
+    <message>
+      <source>Delete Item</source>
+      <translation>Position löschen</translation>
+    </message>
+    <message>
+      <source>Deleting items is permanent and cannot be undone. Do you really want to delete the selected item?</source>
+      <translation>Das Löschen von Positionen ist endgültig und kann nicht rückgängig gemacht werden. Möchten Sie die ausgewählte Position wirklich löschen?</translation>
     </message>
     <message>
       <source>Delete Line</source>

@@ -764,6 +764,10 @@
       <translation>las facturas del periodo (por omisión: todas las mostradas) como kelvaneExport.ldxtamo o .kelvtamo, entregadas al escritorio; kind 0 todas las facturas enviadas, 1 pagadas, 2 vencidas; --items conserva las líneas de cada factura en lugar de un resumen; muestra la ruta del archivo</translation>
     </message>
     <message>
+      <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
+      <translation>La factura seleccionada está marcada como ya enviada. Si de verdad necesita hacer cambios, vuelva a poner primero su estado en «Creada». Así también podrá reenviar la factura modificada.</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>«%1» no es un número con el que Tamo pueda calcular.</translation>
     </message>
@@ -1673,6 +1677,22 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Actualice Tamo para abrirlo.</translation>
     </message>
     <message>
+      <source>Expected a folder to store application data, found a file (%1).</source>
+      <translation>Se esperaba una carpeta para los datos de la aplicación, pero se encontró un archivo (%1).</translation>
+    </message>
+    <message>
+      <source>The folder %1 could not be created.</source>
+      <translation>No se pudo crear la carpeta %1.</translation>
+    </message>
+    <message>
+      <source>Please check that you may write to its parent folder.</source>
+      <translation>Compruebe que puede escribir en su carpeta superior.</translation>
+    </message>
+    <message>
+      <source>The file %1 could not be replaced.</source>
+      <translation>No se pudo sustituir el archivo %1.</translation>
+    </message>
+    <message>
       <source>The disk is full.</source>
       <translation>El disco está lleno.</translation>
     </message>
@@ -1821,6 +1841,14 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Recuperar sus datos</translation>
     </message>
     <message>
+      <source>Failed to initialize the store</source>
+      <translation>No se pudo inicializar el almacén</translation>
+    </message>
+    <message>
+      <source>There was an error building up the data file.</source>
+      <translation>Se produjo un error al crear el archivo de datos.</translation>
+    </message>
+    <message>
       <source>It is in use by %1; this is a snapshot of it.</source>
       <translation>Lo está usando %1; esta es una instantánea.</translation>
     </message>
@@ -1847,6 +1875,18 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Your change was not kept.</source>
       <translation>Su cambio no se ha conservado.</translation>
+    </message>
+    <message>
+      <source>Quit anyway</source>
+      <translation>Salir de todos modos</translation>
+    </message>
+    <message>
+      <source>Could not save changes while quitting. Quit anyway?</source>
+      <translation>No se pudieron guardar los cambios al salir. ¿Salir de todos modos?</translation>
+    </message>
+    <message>
+      <source>Quitting now will lose any changes you have made since the last successful save</source>
+      <translation>Si sale ahora, perderá todos los cambios hechos desde la última vez que se guardó correctamente</translation>
     </message>
     <message>
       <source>The data nests too deeply to be archived.</source>
@@ -1967,6 +2007,22 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>Choose Client…</source>
       <translation>Elegir cliente…</translation>
+    </message>
+    <message>
+      <source>You have one ore more broken vcards in your %1; probably from a corrupted iCloud sync.
+
+Please open your %1 and delete it or them. Usually, they are very easy to spot. Just look for 'No Name' or '(null)' and you may need to do this on your others devices as well, in case it is happening again.
+
+After doing that, just restart Tamo and you will be able to select people and addresses without any problems.</source>
+      <translation>Su %1 contiene una o varias vCards dañadas, probablemente por una sincronización de iCloud defectuosa.
+
+Abra su %1 y elimínelas. Suelen ser muy fáciles de encontrar: busque «No Name» o «(null)». Si vuelve a ocurrir, quizá tenga que hacerlo también en sus otros dispositivos.
+
+Después, reinicie Tamo y podrá elegir personas y direcciones sin ningún problema.</translation>
+    </message>
+    <message>
+      <source>You need to provide an address pattern in the Preferences.</source>
+      <translation>Debe indicar un patrón de dirección en las preferencias.</translation>
     </message>
     <message>
       <source>Set Client</source>
@@ -2773,20 +2829,64 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>Duplicar</translation>
     </message>
     <message>
+      <source>Sorry!</source>
+      <translation>¡Lo sentimos!</translation>
+    </message>
+    <message>
+      <source>You can't convert an invoice into a quote.</source>
+      <translation>No se puede convertir una factura en presupuesto.</translation>
+    </message>
+    <message>
+      <source>Convert</source>
+      <translation>Convertir</translation>
+    </message>
+    <message>
       <source>Convert Into Invoice</source>
       <translation>Convertir en factura</translation>
+    </message>
+    <message>
+      <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the boilerplate text, the counter for your invoice numbering, and you can't undo this action.</source>
+      <translation>¿Seguro que quiere convertir el presupuesto seleccionado en factura? También cambiarán el título, el texto predefinido y el contador de numeración de sus facturas, y no podrá deshacer esta acción.</translation>
+    </message>
+    <message>
+      <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
+      <translation>La factura seleccionada está marcada como ya enviada. Si de verdad necesita eliminarla, vuelva a poner primero su estado en «Creada».</translation>
     </message>
     <message>
       <source>Delete Quote</source>
       <translation>Eliminar presupuesto</translation>
     </message>
     <message>
+      <source>Deleting quotes is permanent and cannot be undone. Do you really want to delete the selected quote?</source>
+      <translation>Eliminar presupuestos es definitivo y no se puede deshacer. ¿Seguro que quiere eliminar el presupuesto seleccionado?</translation>
+    </message>
+    <message>
       <source>Delete Invoice</source>
       <translation>Eliminar factura</translation>
     </message>
     <message>
+      <source>Deleting invoices is permanent and cannot be undone. Do you really want to delete the selected invoice?</source>
+      <translation>Eliminar facturas es definitivo y no se puede deshacer. ¿Seguro que quiere eliminar la factura seleccionada?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your quote counter so that you won't use the same quote number twice?</source>
+      <translation>¿Quiere que Tamo ajuste automáticamente su contador de presupuestos para que no use dos veces el mismo número de presupuesto?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your invoice counter so that you won't use the same invoice number twice?</source>
+      <translation>¿Quiere que Tamo ajuste automáticamente su contador de facturas para que no use dos veces el mismo número de factura?</translation>
+    </message>
+    <message>
       <source>Set Delivery Date</source>
       <translation>Establecer fecha de entrega</translation>
+    </message>
+    <message>
+      <source>Notification Already Created</source>
+      <translation>Notificación ya creada</translation>
+    </message>
+    <message>
+      <source>You've already created a notification for this invoice. Do you really want to create another one?</source>
+      <translation>Ya ha creado una notificación para esta factura. ¿Seguro que quiere crear otra?</translation>
     </message>
     <message>
       <source>Schedule Notification</source>
@@ -3360,6 +3460,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Tax %1</source>
       <translation>Impuesto %1</translation>
+    </message>
+    <message>
+      <source>Delete Item</source>
+      <translation>Eliminar línea</translation>
+    </message>
+    <message>
+      <source>Deleting items is permanent and cannot be undone. Do you really want to delete the selected item?</source>
+      <translation>Eliminar líneas es definitivo y no se puede deshacer. ¿Seguro que quiere eliminar la línea seleccionada?</translation>
     </message>
     <message>
       <source>Delete Line</source>

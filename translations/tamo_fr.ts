@@ -764,6 +764,10 @@
       <translation>les factures de la période (par défaut : toutes celles affichées) en kelvaneExport.ldxtamo ou .kelvtamo, transmises au bureau ; kind 0 toutes les factures envoyées, 1 payées, 2 en retard ; --items garde les lignes de chaque facture au lieu d’un résumé ; affiche le chemin du fichier</translation>
     </message>
     <message>
+      <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
+      <translation>La facture sélectionnée est marquée comme déjà envoyée. Si vous devez vraiment la modifier, remettez d’abord son statut à « Créée ». Vous pourrez alors aussi renvoyer la facture modifiée.</translation>
+    </message>
+    <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
       <translation>« %1 » n’est pas un nombre avec lequel Tamo peut calculer.</translation>
     </message>
@@ -1673,6 +1677,22 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Veuillez mettre Tamo à jour pour l’ouvrir.</translation>
     </message>
     <message>
+      <source>Expected a folder to store application data, found a file (%1).</source>
+      <translation>Un dossier était attendu pour les données de l’application, mais un fichier a été trouvé (%1).</translation>
+    </message>
+    <message>
+      <source>The folder %1 could not be created.</source>
+      <translation>Le dossier %1 n’a pas pu être créé.</translation>
+    </message>
+    <message>
+      <source>Please check that you may write to its parent folder.</source>
+      <translation>Veuillez vérifier que vous pouvez écrire dans son dossier parent.</translation>
+    </message>
+    <message>
+      <source>The file %1 could not be replaced.</source>
+      <translation>Le fichier %1 n’a pas pu être remplacé.</translation>
+    </message>
+    <message>
       <source>The disk is full.</source>
       <translation>Le disque est plein.</translation>
     </message>
@@ -1821,6 +1841,14 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Récupérer vos données</translation>
     </message>
     <message>
+      <source>Failed to initialize the store</source>
+      <translation>Impossible d’initialiser la base</translation>
+    </message>
+    <message>
+      <source>There was an error building up the data file.</source>
+      <translation>Une erreur s’est produite lors de la construction du fichier de données.</translation>
+    </message>
+    <message>
       <source>It is in use by %1; this is a snapshot of it.</source>
       <translation>Elle est utilisée par %1 ; ceci en est un instantané.</translation>
     </message>
@@ -1847,6 +1875,18 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Your change was not kept.</source>
       <translation>Votre modification n’a pas été conservée.</translation>
+    </message>
+    <message>
+      <source>Quit anyway</source>
+      <translation>Quitter quand même</translation>
+    </message>
+    <message>
+      <source>Could not save changes while quitting. Quit anyway?</source>
+      <translation>Les modifications n’ont pas pu être enregistrées en quittant. Quitter quand même ?</translation>
+    </message>
+    <message>
+      <source>Quitting now will lose any changes you have made since the last successful save</source>
+      <translation>Si vous quittez maintenant, toutes les modifications faites depuis le dernier enregistrement réussi seront perdues</translation>
     </message>
     <message>
       <source>The data nests too deeply to be archived.</source>
@@ -1967,6 +2007,22 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>Choose Client…</source>
       <translation>Choisir le client…</translation>
+    </message>
+    <message>
+      <source>You have one ore more broken vcards in your %1; probably from a corrupted iCloud sync.
+
+Please open your %1 and delete it or them. Usually, they are very easy to spot. Just look for 'No Name' or '(null)' and you may need to do this on your others devices as well, in case it is happening again.
+
+After doing that, just restart Tamo and you will be able to select people and addresses without any problems.</source>
+      <translation>Votre %1 contient une ou plusieurs vCards endommagées, sans doute à cause d’une synchronisation iCloud défectueuse.
+
+Veuillez ouvrir votre %1 et les supprimer. Elles sont généralement très faciles à repérer : cherchez simplement « No Name » ou « (null) ». Si cela se reproduit, il faudra peut-être le faire aussi sur vos autres appareils.
+
+Ensuite, redémarrez simplement Tamo et vous pourrez choisir des personnes et des adresses sans aucun problème.</translation>
+    </message>
+    <message>
+      <source>You need to provide an address pattern in the Preferences.</source>
+      <translation>Vous devez indiquer un modèle d’adresse dans les préférences.</translation>
     </message>
     <message>
       <source>Set Client</source>
@@ -2773,20 +2829,64 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Dupliquer</translation>
     </message>
     <message>
+      <source>Sorry!</source>
+      <translation>Désolé !</translation>
+    </message>
+    <message>
+      <source>You can't convert an invoice into a quote.</source>
+      <translation>Une facture ne peut pas être convertie en devis.</translation>
+    </message>
+    <message>
+      <source>Convert</source>
+      <translation>Convertir</translation>
+    </message>
+    <message>
       <source>Convert Into Invoice</source>
       <translation>Convertir en facture</translation>
+    </message>
+    <message>
+      <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the boilerplate text, the counter for your invoice numbering, and you can't undo this action.</source>
+      <translation>Voulez-vous vraiment convertir le devis sélectionné en facture ? Le titre, le texte type et le compteur de numérotation de vos factures changeront aussi, et cette action ne pourra pas être annulée.</translation>
+    </message>
+    <message>
+      <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
+      <translation>La facture sélectionnée est marquée comme déjà envoyée. Si vous devez vraiment la supprimer, remettez d’abord son statut à « Créée ».</translation>
     </message>
     <message>
       <source>Delete Quote</source>
       <translation>Supprimer le devis</translation>
     </message>
     <message>
+      <source>Deleting quotes is permanent and cannot be undone. Do you really want to delete the selected quote?</source>
+      <translation>La suppression d’un devis est définitive et ne peut pas être annulée. Voulez-vous vraiment supprimer le devis sélectionné ?</translation>
+    </message>
+    <message>
       <source>Delete Invoice</source>
       <translation>Supprimer la facture</translation>
     </message>
     <message>
+      <source>Deleting invoices is permanent and cannot be undone. Do you really want to delete the selected invoice?</source>
+      <translation>La suppression d’une facture est définitive et ne peut pas être annulée. Voulez-vous vraiment supprimer la facture sélectionnée ?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your quote counter so that you won't use the same quote number twice?</source>
+      <translation>Voulez-vous que Tamo ajuste automatiquement votre compteur de devis afin de ne pas utiliser deux fois le même numéro de devis ?</translation>
+    </message>
+    <message>
+      <source>Do you want Tamo to automatically adjust your invoice counter so that you won't use the same invoice number twice?</source>
+      <translation>Voulez-vous que Tamo ajuste automatiquement votre compteur de factures afin de ne pas utiliser deux fois le même numéro de facture ?</translation>
+    </message>
+    <message>
       <source>Set Delivery Date</source>
       <translation>Définir la date de livraison</translation>
+    </message>
+    <message>
+      <source>Notification Already Created</source>
+      <translation>Notification déjà créée</translation>
+    </message>
+    <message>
+      <source>You've already created a notification for this invoice. Do you really want to create another one?</source>
+      <translation>Vous avez déjà créé une notification pour cette facture. Voulez-vous vraiment en créer une autre ?</translation>
     </message>
     <message>
       <source>Schedule Notification</source>
@@ -3360,6 +3460,14 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Tax %1</source>
       <translation>Taxe %1</translation>
+    </message>
+    <message>
+      <source>Delete Item</source>
+      <translation>Supprimer la ligne</translation>
+    </message>
+    <message>
+      <source>Deleting items is permanent and cannot be undone. Do you really want to delete the selected item?</source>
+      <translation>La suppression d’une ligne est définitive et ne peut pas être annulée. Voulez-vous vraiment supprimer la ligne sélectionnée ?</translation>
     </message>
     <message>
       <source>Delete Line</source>

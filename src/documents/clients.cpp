@@ -72,16 +72,15 @@ std::optional<ClientPanel> Clients::showAddressPopover(const ContactBook& book,
 {
     if (book.brokenCards > 0) {
         session_.prompter().ask(
-            {QStringLiteral("Error!"),
-             QStringLiteral(
-                 "You have one ore more broken vcards in your %1; probably from a corrupted "
-                 "iCloud sync.\n\nPlease open your %1 and delete it or them. Usually, they are "
-                 "very easy to spot. Just look for 'No Name' or '(null)' and you may need to do "
-                 "this on your others devices as well, in case it is happening again.\n\nAfter "
-                 "doing that, just restart Tamo and you will be able to select people and "
-                 "addresses without any problems.")
+            {tr("Error!"),
+             tr("You have one ore more broken vcards in your %1; probably from a corrupted "
+                "iCloud sync.\n\nPlease open your %1 and delete it or them. Usually, they are "
+                "very easy to spot. Just look for 'No Name' or '(null)' and you may need to do "
+                "this on your others devices as well, in case it is happening again.\n\nAfter "
+                "doing that, just restart Tamo and you will be able to select people and "
+                "addresses without any problems.")
                  .arg(location),
-             {QStringLiteral("OK")}});
+             {tr("OK")}});
         return std::nullopt;
     }
     if (!session_.documents().current() || refuseChangesToSentDocument(session_)) {
@@ -122,10 +121,9 @@ ClientPanel Clients::selectAddressRecord(const Contact& contact) const
     panel.evoiceCity = address.city;
 
     // Without a pattern the hint lands in the address field, where the person will see it.
-    QString text =
-        s.contains(key::prefsAddressPattern)
-            ? s.string(key::prefsAddressPattern)
-            : QStringLiteral("You need to provide an address pattern in the Preferences.");
+    QString text = s.contains(key::prefsAddressPattern)
+                       ? s.string(key::prefsAddressPattern)
+                       : tr("You need to provide an address pattern in the Preferences.");
     // In this order, so that a value holding a later token has that token filled too.
     const std::pair<const char16_t*, const QString&> tokens[] = {
         {u"%FIRSTNAME%", contact.firstName},

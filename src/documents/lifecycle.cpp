@@ -6,12 +6,14 @@
 #include "calc/totals.h"
 #include "documents/notificationscheduler.h"
 #include "interchange/recorddictionary.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
 namespace {
 
-const QString kAlreadySentText = QStringLiteral(
+const char* const kAlreadySentText = QT_TRANSLATE_NOOP(
+    "Tamo",
     "The selected invoice is marked as already sent. If you really need to make changes, please "
     "set its status back to 'Created' first. Then you will also be able to resend the modified "
     "invoice.");
@@ -40,12 +42,12 @@ bool refuseChangesToReadOnlyStore(AppSession& session)
     if (!session.isReadOnly()) {
         return false;
     }
-    session.prompter().ask({QStringLiteral("Error!"),
+    session.prompter().ask({tr("Error!"),
                             QCoreApplication::translate("tamo::Store",
                                                         "This store is open for reading only, so "
                                                         "nothing in it can be changed. %1")
                                 .arg(session.readOnlyReason()),
-                            {QStringLiteral("OK")}});
+                            {tr("OK")}});
     return true;
 }
 
@@ -57,7 +59,7 @@ bool refuseChangesToSentDocument(AppSession& session)
     if (!isCurrentInvoiceSent(session)) {
         return false;
     }
-    session.prompter().ask({QStringLiteral("Error!"), kAlreadySentText, {QStringLiteral("OK")}});
+    session.prompter().ask({tr("Error!"), tr(kAlreadySentText), {tr("OK")}});
     return true;
 }
 
@@ -223,18 +225,16 @@ bool DocumentLifecycle::convertQuoteToInvoice()
     }
     Prompter& prompter = session_.prompter();
     if (d->integer("kind") == 1) {
-        prompter.ask({QStringLiteral("Sorry!"),
-                      QStringLiteral("You can't convert an invoice into a quote."),
-                      {QStringLiteral("OK")}});
+        prompter.ask({tr("Sorry!"), tr("You can't convert an invoice into a quote."), {tr("OK")}});
         return false;
     }
-    const QString convert = QStringLiteral("Convert");
-    if (prompter.ask({QStringLiteral("Convert Into Invoice"),
-                      QStringLiteral("Do you really want to convert the selected quote into an "
-                                     "invoice? This will also change the title, the boilerplate "
-                                     "text, the counter for your invoice numbering, and you can't "
-                                     "undo this action."),
-                      {convert, QStringLiteral("Cancel")}}) != convert) {
+    const QString convert = tr("Convert");
+    if (prompter.ask({tr("Convert Into Invoice"),
+                      tr("Do you really want to convert the selected quote into an "
+                         "invoice? This will also change the title, the boilerplate "
+                         "text, the counter for your invoice numbering, and you can't "
+                         "undo this action."),
+                      {convert, tr("Cancel")}}) != convert) {
         return false;
     }
     Settings& s = session_.settings();
@@ -269,24 +269,23 @@ bool DocumentLifecycle::deleteInvoice()
     Prompter& prompter = session_.prompter();
     const bool quote = d->integer("kind") == 0;
     if (!quote && d->integer("status") > 0) {
-        prompter.ask(
-            {QStringLiteral("Error!"),
-             QStringLiteral("The selected invoice is marked as already sent. If you really "
-                            "need to delete it, please set its status back to 'Created' "
-                            "first."),
-             {QStringLiteral("OK")}});
+        prompter.ask({tr("Error!"),
+                      tr("The selected invoice is marked as already sent. If you really "
+                         "need to delete it, please set its status back to 'Created' "
+                         "first."),
+                      {tr("OK")}});
         return false;
     }
-    const QString remove = QStringLiteral("Delete");
+    const QString remove = tr("Delete");
     const Alert question =
-        quote ? Alert{QStringLiteral("Delete Quote"),
-                      QStringLiteral("Deleting quotes is permanent and cannot be undone. Do you "
-                                     "really want to delete the selected quote?"),
-                      {remove, QStringLiteral("Cancel")}}
-              : Alert{QStringLiteral("Delete Invoice"),
-                      QStringLiteral("Deleting invoices is permanent and cannot be undone. Do you "
-                                     "really want to delete the selected invoice?"),
-                      {remove, QStringLiteral("Cancel")}};
+        quote ? Alert{tr("Delete Quote"),
+                      tr("Deleting quotes is permanent and cannot be undone. Do you "
+                         "really want to delete the selected quote?"),
+                      {remove, tr("Cancel")}}
+              : Alert{tr("Delete Invoice"),
+                      tr("Deleting invoices is permanent and cannot be undone. Do you "
+                         "really want to delete the selected invoice?"),
+                      {remove, tr("Cancel")}};
     if (prompter.ask(question) != remove) {
         return false;
     }
@@ -298,13 +297,13 @@ bool DocumentLifecycle::deleteInvoice()
     Totals(session_).refreshStatistics();
     session_.saveContext();
 
-    const QString adjust = QStringLiteral("Adjust Counter");
-    const QString what = quote ? QStringLiteral("quote") : QStringLiteral("invoice");
+    const QString adjust = tr("Adjust Counter");
     if (prompter.ask({adjust,
-                      QStringLiteral("Do you want Tamo to automatically adjust your %1 counter so "
-                                     "that you won't use the same %1 number twice?")
-                          .arg(what),
-                      {adjust, QStringLiteral("Cancel")}}) == adjust) {
+                      quote ? tr("Do you want Tamo to automatically adjust your quote counter so "
+                                 "that you won't use the same quote number twice?")
+                            : tr("Do you want Tamo to automatically adjust your invoice counter "
+                                 "so that you won't use the same invoice number twice?"),
+                      {adjust, tr("Cancel")}}) == adjust) {
         quote ? Numbering(session_).raiseQuoteCounter() : Numbering(session_).raiseInvoiceCounter();
     }
     return true;
@@ -409,11 +408,12 @@ bool DocumentLifecycle::openNotificationSheet()
     if (!d->boolean("misc4")) {
         return true;
     }
+    const QString cancel = tr("Cancel");
     return session_.prompter().ask(
-               {QStringLiteral("Notification Already Created"),
-                QStringLiteral("You've already created a notification for this invoice. Do you "
-                               "really want to create another one?"),
-                {QStringLiteral("OK"), QStringLiteral("Cancel")}}) != u"Cancel";
+               {tr("Notification Already Created"),
+                tr("You've already created a notification for this invoice. Do you "
+                   "really want to create another one?"),
+                {tr("OK"), cancel}}) != cancel;
 }
 
 NotificationRequest DocumentLifecycle::prepareNotification() const

@@ -152,11 +152,11 @@ bool LineItems::deleteItem(Record* line)
     if (!document || !line || line->toOne("invoice") != document) {
         return false;
     }
-    const QString remove = QStringLiteral("Delete");
-    if (session_.prompter().ask({QStringLiteral("Delete Item"),
-                                 QStringLiteral("Deleting items is permanent and cannot be undone. "
-                                                "Do you really want to delete the selected item?"),
-                                 {remove, QStringLiteral("Cancel")}}) != remove) {
+    const QString remove = tr("Delete");
+    if (session_.prompter().ask({tr("Delete Item"),
+                                 tr("Deleting items is permanent and cannot be undone. "
+                                    "Do you really want to delete the selected item?"),
+                                 {remove, tr("Cancel")}}) != remove) {
         return false;
     }
     {

@@ -45,10 +45,9 @@ Context* AppSession::managedObjectContext()
         }
         prompter_.presentError(opened.error());
         if (opened.error().domain != QLatin1String(kLockErrorDomain)) {
-            prompter_.presentError(
-                Error{QString::fromLatin1(kStoreErrorDomain), 0,
-                      QStringLiteral("Failed to initialize the store"),
-                      QStringLiteral("There was an error building up the data file.")});
+            prompter_.presentError(Error{QString::fromLatin1(kStoreErrorDomain), 0,
+                                         tr("Failed to initialize the store"),
+                                         tr("There was an error building up the data file.")});
         }
         return nullptr;
     }
@@ -306,12 +305,11 @@ AppSession::TerminateReply AppSession::applicationShouldTerminate()
         settings_.set(key::isTerminatedFine, false);
         return TerminateReply::Cancel;
     }
-    const QString quitAnyway = QStringLiteral("Quit anyway");
+    const QString quitAnyway = tr("Quit anyway");
     const QString answer = prompter_.ask(
-        {QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-         QStringLiteral("Quitting now will lose any changes you have made since the last "
-                        "successful save"),
-         {quitAnyway, QStringLiteral("Cancel")}});
+        {tr("Could not save changes while quitting. Quit anyway?"),
+         tr("Quitting now will lose any changes you have made since the last successful save"),
+         {quitAnyway, tr("Cancel")}});
     if (answer == quitAnyway) {
         return TerminateReply::Now;
     }

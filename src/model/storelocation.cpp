@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/translations.h"
+
 namespace tamo {
 
 namespace {
@@ -35,12 +37,11 @@ Result<void> ensureFolder(const QString& path)
     if (info.exists() && !info.isDir()) {
         return fail(
             domain(), kFileInsteadOfFolderError,
-            QStringLiteral("Expected a folder to store application data, found a file (%1).")
-                .arg(path));
+            tr("Expected a folder to store application data, found a file (%1).").arg(path));
     }
     if (!info.exists() && !QDir().mkpath(path)) {
-        return fail(domain(), 102, QStringLiteral("The folder %1 could not be created.").arg(path),
-                    QStringLiteral("Please check that you may write to its parent folder."));
+        return fail(domain(), 102, tr("The folder %1 could not be created.").arg(path),
+                    tr("Please check that you may write to its parent folder."));
     }
     return {};
 }
@@ -56,8 +57,7 @@ Result<void> migrateStore(Context& context, const QString& target)
     for (const char* suffix : {"", "-shm", "-wal"}) {
         const QString file = target + QLatin1String(suffix);
         if (QFile::exists(file) && !QFile::remove(file)) {
-            return fail(domain(), 103,
-                        QStringLiteral("The file %1 could not be replaced.").arg(file));
+            return fail(domain(), 103, tr("The file %1 could not be replaced.").arg(file));
         }
     }
     return context.copyStoreTo(target);
