@@ -288,6 +288,10 @@
       <translation>Tamos Standard-E-Rechnung schreibt ein Dokument ohne Steuern als eine einzige Zwischensumme zum Nullsteuersatz über Positionen ohne Steuerkategorie.</translation>
     </message>
     <message>
+      <source>Tamo's standard e-invoice takes the document's currency from Preferences → Company (prefsSupplierCurrency) and every amount's currency from the E-Invoice Details (evoiceCurrency); make them the same.</source>
+      <translation>Tamos Standard-E-Rechnung nimmt die Währung des Dokuments aus Einstellungen → Unternehmen (prefsSupplierCurrency) und die Währung jedes Betrags aus den E-Rechnungsdetails (evoiceCurrency); gleichen Sie beide an.</translation>
+    </message>
+    <message>
       <source>Tamo's standard e-invoice writes quantities and prices with two decimals, while the document calculates with three.</source>
       <translation>Tamos Standard-E-Rechnung schreibt Mengen und Preise mit zwei Nachkommastellen, während das Dokument mit drei rechnet.</translation>
     </message>
@@ -766,6 +770,10 @@
     <message>
       <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
       <translation>Die ausgewählte Rechnung ist als bereits versendet markiert. Wenn Sie wirklich etwas ändern müssen, setzen Sie ihren Status bitte zuerst auf „Erstellt“ zurück. Dann können Sie die geänderte Rechnung auch erneut versenden.</translation>
+    </message>
+    <message>
+      <source>This feature is bound to the arranged invoices in Tamo's main window. This means you can, for example, search for a client and therefore print out the account book just for this single client or you can pre-filter all your invoices to print out the account book only for paid or overdue invoices.</source>
+      <translation>Diese Funktion richtet sich nach den Rechnungen, die im Hauptfenster von Tamo angezeigt werden. So können Sie zum Beispiel nach einem Kunden suchen und das Rechnungsbuch nur für diesen Kunden drucken, oder Ihre Rechnungen vorher filtern und das Rechnungsbuch nur für bezahlte oder überfällige Rechnungen drucken.</translation>
     </message>
     <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
@@ -1729,6 +1737,22 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
       <translation>Die Datei „%1“ konnte nicht geschrieben werden.</translation>
     </message>
     <message>
+      <source>The file is not a Tamo design.</source>
+      <translation>Die Datei ist kein Tamo-Design.</translation>
+    </message>
+    <message>
+      <source>It holds no dictionary.</source>
+      <translation>Sie enthält kein Verzeichnis.</translation>
+    </message>
+    <message>
+      <source>It holds no “designDic” dictionary.</source>
+      <translation>Sie enthält kein Verzeichnis „designDic“.</translation>
+    </message>
+    <message>
+      <source>The built-in design “%1” is missing.</source>
+      <translation>Das mitgelieferte Design „%1“ fehlt.</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>„%1“ kann nicht als Logo verwendet werden.</translation>
     </message>
@@ -1779,6 +1803,22 @@ Tamo schreibt Dateien im Format XRechnung 3.0. Geben Sie Ihre Angaben als Rechnu
     <message>
       <source>AVERAGE</source>
       <translation>DURCHSCHNITT</translation>
+    </message>
+    <message>
+      <source>The starting values “%1” could not be read.</source>
+      <translation>Die Startwerte „%1“ konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+      <source>Tamo has no setting “%1”.</source>
+      <translation>Tamo hat keine Einstellung „%1“.</translation>
+    </message>
+    <message>
+      <source>The value of “%1” is %2, which that setting cannot hold.</source>
+      <translation>Der Wert von „%1“ ist %2, was diese Einstellung nicht aufnehmen kann.</translation>
+    </message>
+    <message>
+      <source>The account book could not be drawn.</source>
+      <translation>Das Rechnungsbuch konnte nicht erstellt werden.</translation>
     </message>
     <message>
       <source>Send To</source>
@@ -3072,6 +3112,14 @@ Starten Sie Tamo danach einfach neu, dann können Sie Personen und Adressen prob
       <translation>„%1“ ist ein Tamo-Design. Möchten Sie es zu Ihren Designs hinzufügen?</translation>
     </message>
     <message>
+      <source>Another Tamo already listens at %1.</source>
+      <translation>Ein anderes Tamo wartet bereits unter %1 auf Anfragen.</translation>
+    </message>
+    <message>
+      <source>Unable to listen at %1.</source>
+      <translation>Unter %1 kann nicht auf Anfragen gewartet werden.</translation>
+    </message>
+    <message>
       <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
       <translation>FEHLER! IHR AUSGEWÄHLTES DESIGN IST DEFEKT ODER BESCHÄDIGT! BITTE BEHEBEN SIE DAS!</translation>
     </message>
@@ -3816,6 +3864,30 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Setup &amp;Assistant…</source>
       <translation>Einrichtungs&amp;assistent …</translation>
+    </message>
+    <message>
+      <source>no document is selected</source>
+      <translation>es ist kein Dokument ausgewählt</translation>
+    </message>
+    <message>
+      <source>step 2: the invoice amount is missing or 0</source>
+      <translation>Schritt 2: der Rechnungsbetrag fehlt oder ist 0</translation>
+    </message>
+    <message>
+      <source>step 3: the invoice has no items</source>
+      <translation>Schritt 3: die Rechnung hat keine Positionen</translation>
+    </message>
+    <message>
+      <source>step 4: discounts are not calculated before taxes (beforeTaxesBool)</source>
+      <translation>Schritt 4: Rabatte werden nicht vor Steuern berechnet (beforeTaxesBool)</translation>
+    </message>
+    <message>
+      <source>step 5: the supplier setting %1 is empty</source>
+      <translation>Schritt 5: die Absendereinstellung %1 ist leer</translation>
+    </message>
+    <message>
+      <source>step 6: the invoice's %1 is empty</source>
+      <translation>Schritt 6: %1 der Rechnung ist leer</translation>
     </message>
     <message>
       <source>Paper and printing</source>

@@ -288,6 +288,10 @@
       <translation>La factura electrónica estándar de Tamo escribe un documento sin impuestos como un único subtotal a tipo cero sobre líneas que no llevan categoría de impuesto.</translation>
     </message>
     <message>
+      <source>Tamo's standard e-invoice takes the document's currency from Preferences → Company (prefsSupplierCurrency) and every amount's currency from the E-Invoice Details (evoiceCurrency); make them the same.</source>
+      <translation>La factura electrónica estándar de Tamo toma la moneda del documento de Preferencias → Empresa (prefsSupplierCurrency) y la de cada importe de los Datos de factura electrónica (evoiceCurrency); haga que coincidan.</translation>
+    </message>
+    <message>
       <source>Tamo's standard e-invoice writes quantities and prices with two decimals, while the document calculates with three.</source>
       <translation>La factura electrónica estándar de Tamo escribe las cantidades y los precios con dos decimales, mientras que el documento calcula con tres.</translation>
     </message>
@@ -766,6 +770,10 @@
     <message>
       <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
       <translation>La factura seleccionada está marcada como ya enviada. Si de verdad necesita hacer cambios, vuelva a poner primero su estado en «Creada». Así también podrá reenviar la factura modificada.</translation>
+    </message>
+    <message>
+      <source>This feature is bound to the arranged invoices in Tamo's main window. This means you can, for example, search for a client and therefore print out the account book just for this single client or you can pre-filter all your invoices to print out the account book only for paid or overdue invoices.</source>
+      <translation>Esta función se basa en las facturas que se muestran en la ventana principal de Tamo. Así puede, por ejemplo, buscar un cliente e imprimir el libro de cuentas solo para ese cliente, o filtrar antes sus facturas para imprimirlo solo con las facturas pagadas o vencidas.</translation>
     </message>
     <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
@@ -1729,6 +1737,22 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
       <translation>No se pudo escribir el archivo «%1».</translation>
     </message>
     <message>
+      <source>The file is not a Tamo design.</source>
+      <translation>El archivo no es un diseño de Tamo.</translation>
+    </message>
+    <message>
+      <source>It holds no dictionary.</source>
+      <translation>No contiene ningún diccionario.</translation>
+    </message>
+    <message>
+      <source>It holds no “designDic” dictionary.</source>
+      <translation>No contiene ningún diccionario «designDic».</translation>
+    </message>
+    <message>
+      <source>The built-in design “%1” is missing.</source>
+      <translation>Falta el diseño incorporado «%1».</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>«%1» no se puede usar como logotipo.</translation>
     </message>
@@ -1779,6 +1803,22 @@ Tamo escribe archivos XRechnung 3.0. Introduzca sus datos de proveedor en las pr
     <message>
       <source>AVERAGE</source>
       <translation>PROMEDIO</translation>
+    </message>
+    <message>
+      <source>The starting values “%1” could not be read.</source>
+      <translation>No se pudieron leer los valores iniciales «%1».</translation>
+    </message>
+    <message>
+      <source>Tamo has no setting “%1”.</source>
+      <translation>Tamo no tiene ningún ajuste «%1».</translation>
+    </message>
+    <message>
+      <source>The value of “%1” is %2, which that setting cannot hold.</source>
+      <translation>El valor de «%1» es %2, algo que ese ajuste no puede contener.</translation>
+    </message>
+    <message>
+      <source>The account book could not be drawn.</source>
+      <translation>No se pudo generar el libro de cuentas.</translation>
     </message>
     <message>
       <source>Send To</source>
@@ -3072,6 +3112,14 @@ Después, reinicie Tamo y podrá elegir personas y direcciones sin ningún probl
       <translation>«%1» es un diseño de Tamo. ¿Desea añadirlo a sus diseños?</translation>
     </message>
     <message>
+      <source>Another Tamo already listens at %1.</source>
+      <translation>Otro Tamo ya está escuchando en %1.</translation>
+    </message>
+    <message>
+      <source>Unable to listen at %1.</source>
+      <translation>No se puede escuchar en %1.</translation>
+    </message>
+    <message>
       <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
       <translation>¡ERROR! EL DISEÑO SELECCIONADO ESTÁ DEFECTUOSO, CORRUPTO O DAÑADO. ¡DEBE CORREGIRLO!</translation>
     </message>
@@ -3816,6 +3864,30 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Setup &amp;Assistant…</source>
       <translation>&amp;Asistente de configuración…</translation>
+    </message>
+    <message>
+      <source>no document is selected</source>
+      <translation>no hay ningún documento seleccionado</translation>
+    </message>
+    <message>
+      <source>step 2: the invoice amount is missing or 0</source>
+      <translation>paso 2: falta el importe de la factura o es 0</translation>
+    </message>
+    <message>
+      <source>step 3: the invoice has no items</source>
+      <translation>paso 3: la factura no tiene líneas</translation>
+    </message>
+    <message>
+      <source>step 4: discounts are not calculated before taxes (beforeTaxesBool)</source>
+      <translation>paso 4: los descuentos no se calculan antes de impuestos (beforeTaxesBool)</translation>
+    </message>
+    <message>
+      <source>step 5: the supplier setting %1 is empty</source>
+      <translation>paso 5: el ajuste del proveedor %1 está vacío</translation>
+    </message>
+    <message>
+      <source>step 6: the invoice's %1 is empty</source>
+      <translation>paso 6: %1 de la factura está vacío</translation>
     </message>
     <message>
       <source>Paper and printing</source>

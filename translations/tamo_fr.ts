@@ -288,6 +288,10 @@
       <translation>La facture électronique standard de Tamo inscrit un document sans taxe comme un unique sous-total à taux zéro sur des lignes sans catégorie de taxe.</translation>
     </message>
     <message>
+      <source>Tamo's standard e-invoice takes the document's currency from Preferences → Company (prefsSupplierCurrency) and every amount's currency from the E-Invoice Details (evoiceCurrency); make them the same.</source>
+      <translation>La facture électronique standard de Tamo prend la devise du document dans Préférences → Entreprise (prefsSupplierCurrency) et celle de chaque montant dans les Détails de la facture électronique (evoiceCurrency) ; rendez-les identiques.</translation>
+    </message>
+    <message>
       <source>Tamo's standard e-invoice writes quantities and prices with two decimals, while the document calculates with three.</source>
       <translation>La facture électronique standard de Tamo inscrit les quantités et les prix avec deux décimales, alors que le document calcule avec trois.</translation>
     </message>
@@ -766,6 +770,10 @@
     <message>
       <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
       <translation>La facture sélectionnée est marquée comme déjà envoyée. Si vous devez vraiment la modifier, remettez d’abord son statut à « Créée ». Vous pourrez alors aussi renvoyer la facture modifiée.</translation>
+    </message>
+    <message>
+      <source>This feature is bound to the arranged invoices in Tamo's main window. This means you can, for example, search for a client and therefore print out the account book just for this single client or you can pre-filter all your invoices to print out the account book only for paid or overdue invoices.</source>
+      <translation>Cette fonction suit les factures affichées dans la fenêtre principale de Tamo. Vous pouvez ainsi, par exemple, rechercher un client pour n’imprimer le livre de comptes que pour ce client, ou filtrer d’abord vos factures pour ne l’imprimer que pour les factures payées ou en retard.</translation>
     </message>
     <message>
       <source>“%1” is not a number Tamo can calculate with.</source>
@@ -1729,6 +1737,22 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
       <translation>Le fichier « %1 » n’a pas pu être écrit.</translation>
     </message>
     <message>
+      <source>The file is not a Tamo design.</source>
+      <translation>Le fichier n’est pas une mise en page Tamo.</translation>
+    </message>
+    <message>
+      <source>It holds no dictionary.</source>
+      <translation>Il ne contient aucun dictionnaire.</translation>
+    </message>
+    <message>
+      <source>It holds no “designDic” dictionary.</source>
+      <translation>Il ne contient aucun dictionnaire « designDic ».</translation>
+    </message>
+    <message>
+      <source>The built-in design “%1” is missing.</source>
+      <translation>La mise en page intégrée « %1 » est introuvable.</translation>
+    </message>
+    <message>
       <source>“%1” cannot be used as the logo.</source>
       <translation>« %1 » ne peut pas être utilisé comme logo.</translation>
     </message>
@@ -1779,6 +1803,22 @@ Tamo génère des fichiers XRechnung 3.0. Saisissez vos informations de fourniss
     <message>
       <source>AVERAGE</source>
       <translation>MOYENNE</translation>
+    </message>
+    <message>
+      <source>The starting values “%1” could not be read.</source>
+      <translation>Les valeurs de départ « %1 » n’ont pas pu être lues.</translation>
+    </message>
+    <message>
+      <source>Tamo has no setting “%1”.</source>
+      <translation>Tamo n’a pas de réglage « %1 ».</translation>
+    </message>
+    <message>
+      <source>The value of “%1” is %2, which that setting cannot hold.</source>
+      <translation>La valeur de « %1 » est %2, ce que ce réglage ne peut pas contenir.</translation>
+    </message>
+    <message>
+      <source>The account book could not be drawn.</source>
+      <translation>Le livre de comptes n’a pas pu être dessiné.</translation>
     </message>
     <message>
       <source>Send To</source>
@@ -3072,6 +3112,14 @@ Ensuite, redémarrez simplement Tamo et vous pourrez choisir des personnes et de
       <translation>« %1 » est une mise en page Tamo. Voulez-vous l'ajouter à vos mises en page ?</translation>
     </message>
     <message>
+      <source>Another Tamo already listens at %1.</source>
+      <translation>Un autre Tamo est déjà à l’écoute sur %1.</translation>
+    </message>
+    <message>
+      <source>Unable to listen at %1.</source>
+      <translation>Impossible d’écouter sur %1.</translation>
+    </message>
+    <message>
       <source>FAIL! YOUR SELECTED DESIGN IS EITHER BROKEN, CORRUPTED, OR DAMAGED! YOU NEED TO FIX THIS!</source>
       <translation>ÉCHEC ! LA MISE EN PAGE SÉLECTIONNÉE EST DÉFECTUEUSE, CORROMPUE OU ENDOMMAGÉE ! VOUS DEVEZ LA CORRIGER !</translation>
     </message>
@@ -3816,6 +3864,30 @@ Ledrix &gt; Menü &gt; Ablage &gt; Posten aus anderen Programmen importieren …
     <message>
       <source>Setup &amp;Assistant…</source>
       <translation>Assistant de &amp;configuration…</translation>
+    </message>
+    <message>
+      <source>no document is selected</source>
+      <translation>aucun document n’est sélectionné</translation>
+    </message>
+    <message>
+      <source>step 2: the invoice amount is missing or 0</source>
+      <translation>étape 2 : le montant de la facture manque ou vaut 0</translation>
+    </message>
+    <message>
+      <source>step 3: the invoice has no items</source>
+      <translation>étape 3 : la facture n’a aucune ligne</translation>
+    </message>
+    <message>
+      <source>step 4: discounts are not calculated before taxes (beforeTaxesBool)</source>
+      <translation>étape 4 : les remises ne sont pas calculées avant taxes (beforeTaxesBool)</translation>
+    </message>
+    <message>
+      <source>step 5: the supplier setting %1 is empty</source>
+      <translation>étape 5 : le réglage fournisseur %1 est vide</translation>
+    </message>
+    <message>
+      <source>step 6: the invoice's %1 is empty</source>
+      <translation>étape 6 : %1 de la facture est vide</translation>
     </message>
     <message>
       <source>Paper and printing</source>

@@ -135,10 +135,11 @@ QString keptExplanation(Kept kept)
             "subtotal over lines that carry no tax category.");
         break;
     case Kept::SupplierCurrency:
-        why =
+        why = QT_TRANSLATE_NOOP(
+            "Einvoice",
             "Tamo's standard e-invoice takes the document's currency from Preferences → "
             "Company (prefsSupplierCurrency) and every amount's currency from the E-Invoice "
-            "Details (evoiceCurrency); make them the same.";
+            "Details (evoiceCurrency); make them the same.");
         break;
     case Kept::TwoDecimalQuantity:
         why = QT_TRANSLATE_NOOP(

@@ -79,18 +79,17 @@ QString Readiness::reason() const
 {
     switch (step) {
     case Step::NoDocument:
-        return QStringLiteral("no document is selected");
+        return tr("no document is selected");
     case Step::Amount:
-        return QStringLiteral("step 2: the invoice amount is missing or 0");
+        return tr("step 2: the invoice amount is missing or 0");
     case Step::Items:
-        return QStringLiteral("step 3: the invoice has no items");
+        return tr("step 3: the invoice has no items");
     case Step::DiscountBeforeTaxes:
-        return QStringLiteral(
-            "step 4: discounts are not calculated before taxes (beforeTaxesBool)");
+        return tr("step 4: discounts are not calculated before taxes (beforeTaxesBool)");
     case Step::SupplierSetting:
-        return QStringLiteral("step 5: the supplier setting %1 is empty").arg(key);
+        return tr("step 5: the supplier setting %1 is empty").arg(key);
     case Step::InvoiceValue:
-        return QStringLiteral("step 6: the invoice's %1 is empty").arg(key);
+        return tr("step 6: the invoice's %1 is empty").arg(key);
     case Step::Possible:
         break;
     }

@@ -139,13 +139,13 @@ Result<void> HandoffListener::listen(const QString& name)
     if (probe.waitForConnected(1000)) {
         probe.abort();
         return fail(QStringLiteral("Tamo.handoff"), 1,
-                    QStringLiteral("Another Tamo already listens at %1.").arg(name));
+                    tr("Another Tamo already listens at %1.").arg(name));
     }
     // A socket left behind by a Tamo that ended abruptly.
     QLocalServer::removeServer(name);
     if (!server_->listen(name)) {
-        return fail(QStringLiteral("Tamo.handoff"), 2,
-                    QStringLiteral("Unable to listen at %1.").arg(name), server_->errorString());
+        return fail(QStringLiteral("Tamo.handoff"), 2, tr("Unable to listen at %1.").arg(name),
+                    server_->errorString());
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include "interchange/keyedarchive.h"
 #include "interchange/recorddictionary.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -13,8 +14,7 @@ constexpr char kDesignKey[] = "designDic";
 
 Error notADesign(const QString& reason)
 {
-    return interchangeError(kWrongContent, QStringLiteral("The file is not a Tamo design."),
-                            reason);
+    return interchangeError(kWrongContent, tr("The file is not a Tamo design."), reason);
 }
 
 QString resourceText(const QString& path)
@@ -43,11 +43,11 @@ Result<Plist> designDictionaryFromArchive(const QByteArray& bytes)
         return std::unexpected(notADesign(root.error().text()));
     }
     if (plist_get_node_type(root->get()) != PLIST_DICT) {
-        return std::unexpected(notADesign(QStringLiteral("It holds no dictionary.")));
+        return std::unexpected(notADesign(tr("It holds no dictionary.")));
     }
     plist_t design = plist_dict_get_item(root->get(), kDesignKey);
     if (!design || plist_get_node_type(design) != PLIST_DICT) {
-        return std::unexpected(notADesign(QStringLiteral("It holds no “designDic” dictionary.")));
+        return std::unexpected(notADesign(tr("It holds no “designDic” dictionary.")));
     }
     Plist copy(plist_copy(design));
     plist_dict_set_item(copy.get(), "class", plist_new_string("Design"));
@@ -68,7 +68,7 @@ Result<QByteArray> builtInDesignArchive(const QString& name)
     QFile file(QStringLiteral(":/designs/%1.design").arg(name));
     if (!file.open(QIODevice::ReadOnly)) {
         return std::unexpected(interchangeError(
-            kFileUnreadable, QStringLiteral("The built-in design “%1” is missing.").arg(name)));
+            kFileUnreadable, tr("The built-in design “%1” is missing.").arg(name)));
     }
     return file.readAll();
 }

@@ -7,6 +7,7 @@
 #include "calc/totals.h"
 #include "interchange/plistfile.h"
 #include "model/appsession.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -55,7 +56,8 @@ const QString& rowTemplate(bool header)
     return header ? headerRow : documentRow;
 }
 
-const QString kHint = QStringLiteral(
+const char* const kHint = QT_TRANSLATE_NOOP(
+    "Tamo",
     "This feature is bound to the arranged invoices in Tamo's main window. This means you can, "
     "for example, search for a client and therefore print out the account book just for this "
     "single client or you can pre-filter all your invoices to print out the account book only "
@@ -212,7 +214,7 @@ void AccountBook::showPrintHint()
 {
     Settings& settings = session_.settings();
     if (!settings.boolean(key::isAccountBookPrintHintShown)) {
-        session_.prompter().ask({QStringLiteral("Hint!"), kHint, {QStringLiteral("OK")}});
+        session_.prompter().ask({tr("Hint!"), tr(kHint), {tr("OK")}});
         settings.set(key::isAccountBookPrintHintShown, true);
     }
 }
@@ -229,8 +231,7 @@ Result<int> AccountBook::writePdf(const QString& path)
     const auto book = accountBookDocument();
     const QByteArray pdf = book->PDFDocument();
     if (pdf.isEmpty()) {
-        return fail(QStringLiteral("Tamo.reports"), 1,
-                    QStringLiteral("The account book could not be drawn."));
+        return fail(QStringLiteral("Tamo.reports"), 1, tr("The account book could not be drawn."));
     }
     if (auto written = writeFileAtomically(path, pdf); !written) {
         return std::unexpected(written.error());

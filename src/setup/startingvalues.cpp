@@ -5,6 +5,7 @@
 #include <array>
 
 #include "interchange/plistfile.h"
+#include "platform/translations.h"
 
 namespace tamo {
 
@@ -100,7 +101,7 @@ bool listed(const std::array<const SettingKey*, N>& keys, const SettingKey& key)
 Error fileError(const QString& path, const QString& reason)
 {
     return Error{QString::fromLatin1(kSetupDomain), 1,
-                 QStringLiteral("The starting values “%1” could not be read.").arg(path), reason};
+                 tr("The starting values “%1” could not be read.").arg(path), reason};
 }
 
 // The node as a value of the key's type; nothing when it is another kind of value.
@@ -185,7 +186,7 @@ Result<StartingValues> readStartingValues(const QString& path)
         return std::unexpected(plist.error());
     }
     if (plist_get_node_type(plist->get()) != PLIST_DICT) {
-        return std::unexpected(fileError(path, QStringLiteral("It holds no dictionary.")));
+        return std::unexpected(fileError(path, tr("It holds no dictionary.")));
     }
     StartingValues values;
     auto read = forEachDictionaryEntry(
@@ -193,14 +194,13 @@ Result<StartingValues> readStartingValues(const QString& path)
             const SettingKey* key = findSettingKey(name);
             const QString shown = QString::fromUtf8(name.data(), qsizetype(name.size()));
             if (!key) {
-                return std::unexpected(
-                    fileError(path, QStringLiteral("Tamo has no setting “%1”.").arg(shown)));
+                return std::unexpected(fileError(path, tr("Tamo has no setting “%1”.").arg(shown)));
             }
             auto value = typedValue(*key, node);
             if (!value) {
-                return std::unexpected(fileError(
-                    path, QStringLiteral("The value of “%1” is %2, which that setting cannot hold.")
-                              .arg(shown, plistKindName(node))));
+                return std::unexpected(
+                    fileError(path, tr("The value of “%1” is %2, which that setting cannot hold.")
+                                        .arg(shown, plistKindName(node))));
             }
             values.push_back({key, *value});
             return {};
