@@ -37,12 +37,14 @@ class ProcessTest : public ::testing::Test {
 protected:
     QTemporaryDir dir;
     QString store = dir.filePath(u"profile"_qs);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 
     QString storeFile() const { return store + u"/Tamo.zqdb"_qs; }
 
     Outcome tamo(const QStringList& words, const QString& profile = {})
     {
         QProcess p;
+        p.setProcessEnvironment(environment);
         p.start(program(), QStringList{u"--store"_qs, profile.isEmpty() ? store : profile} + words);
         EXPECT_TRUE(p.waitForFinished(120000)) << words.join(u' ').toStdString();
         return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
@@ -129,6 +131,29 @@ TEST_F(ProcessTest, AWindowHoldsItsStoreAndCommandsThatOnlyReadRunBesideIt)
                                 u"10"_qs, u"--quantity"_qs, u"1"_qs});
     EXPECT_EQ(added.code, 0) << added.err.toStdString();
     EXPECT_FALSE(QFile::exists(lockFile));
+}
+
+// A German freelancer reads the command line's own refusals and the core's messages in German.
+TEST_F(ProcessTest, ACommandRunInGermanAnswersInGerman)
+{
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANGUAGE"}) {
+        environment.remove(QString::fromLatin1(name));
+    }
+    environment.insert(u"LANG"_qs, u"de_DE.UTF-8"_qs);
+    const QString broken = dir.filePath(u"Kaputt.tamo"_qs);
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("kein Archiv");
+    file.close();
+
+    EXPECT_EQ(tamo({u"list"_qs, u"--xml"_qs}).err,
+              u"tamo: list: unbekannte Option --xml\nAufruf: tamo list [--json]\n");
+    const Outcome imported = tamo({u"--yes"_qs, u"import-document"_qs, broken});
+    EXPECT_EQ(imported.code, 1);
+    EXPECT_TRUE(
+        imported.err.contains(u"Das Dokument „Kaputt.tamo“ konnte nicht importiert werden."))
+        << imported.err.toStdString();
+    EXPECT_TRUE(tamo({u"list"_qs}).out.startsWith(u"Status          Nummer"));
 }
 
 TEST_F(ProcessTest, CommandsOnOneStoreTakeTurns)

@@ -16,6 +16,9 @@ const bool prepared = [] {
     setDefault("QT_QPA_PLATFORM", "offscreen");
     // The web engine refuses to start its sandbox as root, as tests in CI run.
     setDefault("QTWEBENGINE_CHROMIUM_FLAGS", "--no-sandbox");
+    // Tests read Tamo's English texts, whatever language the desktop running them speaks.
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     const QByteArray home(TAMO_TEST_HOME);
     qputenv("HOME", home);
     qputenv("XDG_DATA_HOME", home + "/data");
