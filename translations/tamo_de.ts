@@ -1012,6 +1012,10 @@ Befehle:
       <translation>%1: %2 ist als bereits versendet markiert; setzen Sie den Status zuerst auf 0 (erstellt) zurück</translation>
     </message>
     <message>
+      <source>%1 is not KEY=VALUE</source>
+      <translation>%1 hat nicht die Form KEY=VALUE</translation>
+    </message>
+    <message>
       <source>there is no field %1; the fields are %2</source>
       <translation>es gibt kein Feld %1; die Felder sind %2</translation>
     </message>

@@ -1012,6 +1012,10 @@ commands:
       <translation>%1: %2 está marcado como ya enviado; vuelva a poner primero su estado en 0 (creado)</translation>
     </message>
     <message>
+      <source>%1 is not KEY=VALUE</source>
+      <translation>%1 no tiene la forma KEY=VALUE</translation>
+    </message>
+    <message>
       <source>there is no field %1; the fields are %2</source>
       <translation>no existe el campo %1; los campos son %2</translation>
     </message>

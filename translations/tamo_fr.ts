@@ -1012,6 +1012,10 @@ commandes :
       <translation>%1 : %2 est marqué comme déjà envoyé ; remettez d’abord son statut à 0 (créé)</translation>
     </message>
     <message>
+      <source>%1 is not KEY=VALUE</source>
+      <translation>%1 n’est pas de la forme KEY=VALUE</translation>
+    </message>
+    <message>
       <source>there is no field %1; the fields are %2</source>
       <translation>il n’y a pas de champ %1 ; les champs sont %2</translation>
     </message>

@@ -74,7 +74,7 @@ std::optional<Failure> setCommand(AppSession& session, const CommandArgs& args, 
     for (qsizetype i = 1; i < args.operandCount(); ++i) {
         const auto pair = assignment(args.operand(i));
         if (!pair) {
-            return args.usage(QStringLiteral("%1 is not KEY=VALUE").arg(args.operand(i)));
+            return args.usage(tr("%1 is not KEY=VALUE").arg(args.operand(i)));
         }
         const DocumentField* field = findDocumentField(pair->first.toStdString());
         if (!field) {
@@ -209,7 +209,7 @@ std::optional<Failure> editLineCommand(AppSession& session, const CommandArgs& a
     for (qsizetype i = 2; i < args.operandCount(); ++i) {
         const auto pair = assignment(args.operand(i));
         if (!pair) {
-            return args.usage(QStringLiteral("%1 is not KEY=VALUE").arg(args.operand(i)));
+            return args.usage(tr("%1 is not KEY=VALUE").arg(args.operand(i)));
         }
         const auto& [key, text] = *pair;
         bool known = false;
