@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <algorithm>
 #include <array>
 
 #include "platform/filewriting.h"
@@ -79,6 +80,9 @@ QDateTime Settings::date(const SettingKey& key) const
 
 bool Settings::set(const SettingKey& key, const QVariant& value)
 {
+    if (holds(name(key), value)) {
+        return true;
+    }
     renewAfterFailure();
     store_->setValue(name(key), value);
     return sync();
@@ -86,6 +90,10 @@ bool Settings::set(const SettingKey& key, const QVariant& value)
 
 bool Settings::set(std::span<const SettingValue> values)
 {
+    if (std::ranges::all_of(
+            values, [this](const SettingValue& v) { return holds(name(*v.key), v.value); })) {
+        return true;
+    }
     renewAfterFailure();
     for (const SettingValue& v : values) {
         store_->setValue(name(*v.key), v.value);
@@ -98,6 +106,30 @@ bool Settings::remove(const SettingKey& key)
     renewAfterFailure();
     store_->remove(name(key));
     return sync();
+}
+
+// Whether the file already says `value` for `name`: then there is nothing to write (each write
+// rewrites the whole file and waits for the disk, and commands set some keys on every run).
+// After a failed write nothing counts as held, so that the next write saves what is pending.
+bool Settings::holds(const QString& name, const QVariant& value) const
+{
+    if (writeError_ || !store_->contains(name)) {
+        return false;
+    }
+    const QVariant stored = store_->value(name);
+    if (stored.metaType() == value.metaType()) {
+        return stored == value;
+    }
+    // Read back from the file, numbers and flags are the text they were written as.
+    switch (value.metaType().id()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return stored.metaType().id() == QMetaType::QString &&
+               stored.toString() == value.toString();
+    default:
+        return false;
+    }
 }
 
 // QSettings keeps reporting the first write that failed: after one, the next write goes through

@@ -57,6 +57,7 @@ public:
 private:
     bool sync();
     void renewAfterFailure();
+    bool holds(const QString& name, const QVariant& value) const;
 
     std::unique_ptr<QSettings> store_;
     std::optional<Error> writeError_;

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <QFile>
 #include <QTemporaryDir>
 
+#include "platform/filewriting.h"
 #include "settings/settings.h"
 #include "support/scratchfs.h"
 #include "support/testsupport.h"
@@ -35,6 +39,43 @@ TEST_F(SettingsTest, ValuesReachTheFileAtOnceAndReadBackExactly)
     EXPECT_EQ(other.real(key::tax1Rate), 0.19);
     EXPECT_EQ(other.string(key::prefsName), u"Anna Schmidt, Grafikdesign");
     EXPECT_EQ(other.date(key::reportDateL), QDateTime(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC));
+}
+
+// Commands set a few keys on every run; a value the file already holds is not written again,
+// whether this process wrote it or reads it as text that another run wrote.
+TEST_F(SettingsTest, AValueTheFileAlreadyHoldsIsNotWrittenAgain)
+{
+    const QString earlier = dir.filePath(u"Earlier.conf"_qs);
+    ASSERT_TRUE(writeFileAtomically(earlier,
+                                    "[General]\nisTerminatedFine=true\nselectedDesign=3\n"
+                                    "currentPrintJobTitle=Invoice RE-7\n")
+                    .has_value());
+    Settings fromText(earlier);
+    // A write replaces the file: a second name given to it before stays with the old one.
+    const auto rewrittenBy = [](Settings& s, const SettingKey& key, const QVariant& value) {
+        const QByteArray name = QFile::encodeName(s.fileName()), probe = name + ".probe";
+        ::unlink(probe.constData());
+        EXPECT_EQ(::link(name.constData(), probe.constData()), 0);
+        EXPECT_TRUE(s.set(key, value));
+        struct stat st {};
+        return ::stat(name.constData(), &st) != 0 || st.st_nlink != 2;
+    };
+    const struct {
+        const SettingKey* key;
+        QVariant value, other;
+    } cases[] = {
+        {&key::isTerminatedFine, true, false},
+        {&key::selectedDesign, 3, 4},
+        {&key::currentPrintJobTitle, u"Invoice RE-7"_qs, u"Invoice RE-8"_qs},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.key->name);
+        settings.set(*c.key, c.value);
+        EXPECT_FALSE(rewrittenBy(settings, *c.key, c.value));
+        EXPECT_TRUE(rewrittenBy(settings, *c.key, c.other));
+        EXPECT_FALSE(rewrittenBy(fromText, *c.key, c.value)) << "read as text";
+        EXPECT_TRUE(rewrittenBy(fromText, *c.key, c.other)) << "read as text";
+    }
 }
 
 TEST_F(SettingsTest, OneTimeUpdatesWriteTheirValuesOnce)
