@@ -66,6 +66,20 @@ Error renderError(int code, QString message)
 bool singleProcess = false;
 int enginesStarted = 0;
 
+QtMessageHandler previousHandler = nullptr;
+
+// The engine says that it found no graphics backend each time it starts off screen, where it
+// prints without one.
+void withoutGraphicsNotice(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtWarningMsg && text.startsWith(u"No suitable graphics backend found")) {
+        return;
+    }
+    if (previousHandler) {
+        previousHandler(type, context, text);
+    }
+}
+
 }  // namespace
 
 void prepareRendering(EngineProcesses processes)
@@ -84,6 +98,18 @@ void prepareRendering(EngineProcesses processes)
     // filter.
     if (::geteuid() == 0 && !flags.contains("--no-sandbox")) {
         flags += " --no-sandbox";
+    }
+    // Off screen (the command line) pages are only printed: no graphics processor is needed,
+    // and the engine's own log would only add noise to a command's output; Tamo says itself
+    // what failed.
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen") {
+        if (!flags.contains("-gpu")) {
+            flags += " --disable-gpu";
+        }
+        if (!flags.contains("--log-level")) {
+            flags += " --log-level=3";
+        }
+        previousHandler = qInstallMessageHandler(withoutGraphicsNotice);
     }
     singleProcess = processes == EngineProcesses::Single || flags.contains("--single-process");
     if (singleProcess && !flags.contains("--single-process")) {
@@ -240,22 +266,24 @@ void PdfRenderer::startNext()
                                     running_->options.scripts);
     watchdog_.start(limits_.maxMilliseconds);
     started_.start();
-    const QUrl base = QUrl::fromLocalFile(QDir(localFolder_).absolutePath() + u'/');
+    // A page goes over as a file: the engine reads it far faster than it parses the same page
+    // as a data URL. Where no file can be written (a read-only folder) it goes in memory, as far
+    // as the engine's 2 MB limit for data URLs allows.
     const QByteArray utf8 = running_->html.toUtf8();
-    if (utf8.size() <= kMaxInlinePage) {
-        page_->setHtml(running_->html, base);
+    QFile spill(spillFile_);
+    if (spill.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+        spill.write(utf8) == utf8.size() && spill.flush()) {
+        spill.close();
+        page_->load(QUrl::fromLocalFile(spillFile_));
         return;
     }
-    QFile spill(spillFile_);
-    if (!spill.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-        spill.write(utf8) != utf8.size()) {
+    if (utf8.size() > kMaxInlinePage) {
         finish(std::unexpected(renderError(
             kPageNotLoaded,
             tr("The page could not be handed to the renderer: %1").arg(spill.errorString()))));
         return;
     }
-    spill.close();
-    page_->load(QUrl::fromLocalFile(spillFile_));
+    page_->setHtml(running_->html, QUrl::fromLocalFile(QDir(localFolder_).absolutePath() + u'/'));
 }
 
 void PdfRenderer::loaded(bool ok)

@@ -113,7 +113,7 @@ private:
     std::unique_ptr<QWebEnginePage> page_;
     std::deque<Job> queue_;
     std::unique_ptr<Job> running_;
-    QString spillFile_;  // pages too large to hand over in memory go through this file
+    QString spillFile_;  // the page is handed to the engine through this file
     QTimer watchdog_;
     QElapsedTimer started_;
     quint64 generation_ = 0;  // tells a stopped job's late callbacks from the current one's

@@ -1,4 +1,5 @@
 #include <QElapsedTimer>
+#include <QImage>
 #include <QPdfDocument>
 #include <QPdfSelection>
 #include <QSignalSpy>
@@ -14,6 +15,7 @@
 #include "render/designlibrary.h"
 #include "render/pagelayout.h"
 #include "render/sampledocument.h"
+#include "support/scratchfs.h"
 #include "support/testsupport.h"
 
 using namespace tamo;
@@ -233,6 +235,32 @@ TEST_F(PdfTest, AHostileDesignReachesNeitherTheNetworkNorFilesOutsideTheDataFold
     EXPECT_TRUE(words.contains(u"ALLOWED-INSIDE"));
     EXPECT_FALSE(words.contains(u"SECRET-OUTSIDE"));
     EXPECT_EQ(connections, 0);
+}
+
+// The page reaches the engine through a file in the data folder; where that folder cannot be
+// written it goes in memory, and the logo beside it is printed either way.
+TEST_F(PdfTest, APageIsPrintedWithItsLogoWhetherOrNotTheDataFolderCanBeWritten)
+{
+    const QString folder = dir.path(u"data"_qs);
+    PdfRenderer local(folder);
+    QImage logo(40, 40, QImage::Format_RGB32);
+    logo.fill(Qt::darkBlue);
+    ASSERT_TRUE(logo.save(folder + u"/logo.png"_qs));
+    const QString page = u"<!DOCTYPE html><p>HANDED-OVER</p><img src='logo.png'>"_qs;
+    for (const bool writable : {true, false}) {
+        SCOPED_TRACE(writable ? "writable" : "read-only");
+        std::optional<ReadOnlyFolder> locked;
+        if (!writable) {
+            locked.emplace(folder);
+            if (!locked->available()) {
+                GTEST_SKIP() << locked->reason().toStdString();
+            }
+        }
+        const auto pdf = local.renderAndWait(page, pageLayoutFor(2, false));
+        ASSERT_TRUE(pdf.has_value()) << pdf.error().text().toStdString();
+        EXPECT_TRUE(text(*load(*pdf)).contains(u"HANDED-OVER"));
+        EXPECT_TRUE(pdf->contains("/Width 40")) << "the logo is missing";
+    }
 }
 
 TEST_F(PdfTest, RecordsAndDesignsCannotScriptThePrintedPage)
