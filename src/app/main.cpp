@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QTextStream>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "app/appdelegate.h"
@@ -42,6 +44,17 @@ std::unique_ptr<QCoreApplication> headlessApplication(bool rendersPages,
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+// Ends a run that used the web engine once its work is saved and the store is closed. The
+// engine's orderly shutdown keeps nothing (its profile lives in memory only) and takes a good
+// part of a short command's time; its helper processes end with this one.
+[[noreturn]] void endWithoutEngineShutdown(int code, QTextStream& out, QTextStream& err)
+{
+    out.flush();
+    err.flush();
+    std::fflush(nullptr);
+    std::_Exit(code);
+}
+
 // The socket of the window open on this invocation's store, if any.
 QString socketName(const tamo::Profile& profile)
 {
@@ -64,13 +77,18 @@ int main(int argc, char** argv)
 
     if (!invocation.command.isEmpty() || !invocation.error.isEmpty()) {
         const QString command = invocation.command.value(0);
-        const auto application = headlessApplication(tamo::commandRendersPages(command),
+        const bool rendersPages = tamo::commandRendersPages(command);
+        const auto application = headlessApplication(rendersPages,
                                                      tamo::commandPrintsOneDocument(command)
                                                          ? tamo::EngineProcesses::Single
                                                          : tamo::EngineProcesses::Separate,
                                                      argc, argv);
         nameApplication();
-        return tamo::runCommand(invocation, out, err);
+        const int code = tamo::runCommand(invocation, out, err);
+        if (rendersPages) {
+            endWithoutEngineShutdown(code, out, err);
+        }
+        return code;
     }
 
     // A request goes to the window open on the store; without one it is answered here, headless.
