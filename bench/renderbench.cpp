@@ -4,7 +4,11 @@
 // `tamo render --pdf`) against one wkhtmltopdf run, and `tamo export-pdfs` of 100 documents
 // against 100 wkhtmltopdf runs.
 //
+// Beside each, the web engine alone on the same pages: loading and printing them and nothing
+// else, the floor under what tamo can reach.
+//
 //   tamo-bench-render [--runs N] [--tamo PATH] [--wkhtmltopdf PATH]
+//   tamo-bench-render --engine-only PAGES_AT_ONCE FILE.html...   (the floor, as it is run)
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -17,6 +21,7 @@
 
 #include "benchsupport.h"
 #include "calc/totals.h"
+#include "enginefloor.h"
 #include "interchange/plistfile.h"
 #include "pdf/livepreview.h"
 #include "pdf/pdfoutput.h"
@@ -77,9 +82,15 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    prepareRendering();
+    // One page is printed inside this process, as `tamo pdf` prints it.
+    const bool engineOnly = argc > 3 && qstrcmp(argv[1], "--engine-only") == 0;
+    prepareRendering(engineOnly && argc == 4 ? EngineProcesses::Single : EngineProcesses::Separate);
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
+    if (engineOnly) {
+        printWithTheEngineAlone(args.mid(3), args[2].toInt(), pageLayoutFor(2, false));
+    }
+    const QString self = QCoreApplication::applicationFilePath();
     const int runs = optionValue(args, u"--runs"_qs, u"15"_qs).toInt();
     const QString tamo =
         optionValue(args, u"--tamo"_qs, QCoreApplication::applicationDirPath() + u"/tamo"_qs);
@@ -151,8 +162,9 @@ int main(int argc, char** argv)
     b.session.documents().setSelection({b.document});
     // Taken in turns, so that other work on the machine weighs on each alike.
     const int coldRuns = std::max(7, runs / 2);
-    std::vector<double> renders, pdfs, wks;
+    std::vector<double> renders, pdfs, wks, engine;
     for (int i = 0; i < coldRuns; ++i) {
+        engine.push_back(runMs(self, {u"--engine-only"_qs, u"1"_qs, htmlFile}));
         renders.push_back(runMs(tamo, {u"--store"_qs, store, u"render"_qs, number, u"--pdf"_qs,
                                        temporary.filePath(u"tamo.pdf"_qs)}));
         pdfs.push_back(runMs(
@@ -163,7 +175,8 @@ int main(int argc, char** argv)
         std::sort(v.begin(), v.end());
         return v[v.size() / 2];
     };
-    const double cold = median(renders), sent = median(pdfs), wk = median(wks);
+    const double cold = median(renders), sent = median(pdfs), wk = median(wks),
+                 alone = median(engine);
     out << QStringLiteral(
                "cold pdf N FILE: tamo %1 ms, wkhtmltopdf %2 ms (ratio %3, target at "
                "most 1); render --pdf %4 ms (ratio %5); medians of %6\n")
@@ -173,6 +186,10 @@ int main(int argc, char** argv)
                .arg(cold, 0, 'f', 0)
                .arg(cold / wk, 0, 'f', 2)
                .arg(coldRuns);
+    out << QStringLiteral(
+               "  the web engine alone, loading and printing the page: %1 ms (ratio %2)\n")
+               .arg(alone, 0, 'f', 0)
+               .arg(alone / wk, 0, 'f', 2);
 
     // 100 documents of 6 lines: one export-pdfs against 100 wkhtmltopdf runs on their pages.
     const QString batch = temporary.filePath(u"batch"_qs);
@@ -193,20 +210,27 @@ int main(int argc, char** argv)
                                 pages.invoiceHTMLStringFromInvoice(*d).toUtf8());
         }
     }
-    // The batch's memory: tamo and the engine's helper processes together, sampled as it runs.
-    double peakPss = 0;
-    QElapsedTimer batchTimer;
-    batchTimer.start();
-    QProcess exporter;
-    exporter.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    exporter.start(tamo, {u"--store"_qs, batch, u"export-pdfs"_qs, temporary.filePath(u"pdfs"_qs)});
-    while (!exporter.waitForFinished(100)) {
-        peakPss = std::max(peakPss, processTreePssMiB(exporter.processId()));
-    }
-    const double exported = double(batchTimer.nsecsElapsed()) / 1e6;
-    if (exporter.exitCode() != 0) {
-        out << "  export-pdfs failed: " << exporter.readAllStandardOutput() << '\n';
-    }
+    // Timed on its own: sampling the memory of a process tree takes a good part of a core.
+    // The memory is sampled in a second run: tamo and the engine's helper processes together.
+    const auto exportPdfs = [&](bool sampleMemory) {
+        QDir(temporary.filePath(u"pdfs"_qs)).removeRecursively();
+        double peakPss = 0;
+        QElapsedTimer timer;
+        timer.start();
+        QProcess exporter;
+        exporter.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        exporter.start(tamo,
+                       {u"--store"_qs, batch, u"export-pdfs"_qs, temporary.filePath(u"pdfs"_qs)});
+        while (!exporter.waitForFinished(sampleMemory ? 100 : 600000)) {
+            peakPss = std::max(peakPss, processTreePssMiB(exporter.processId()));
+        }
+        if (exporter.exitCode() != 0) {
+            out << "  export-pdfs failed: " << exporter.readAllStandardOutput() << '\n';
+        }
+        return sampleMemory ? peakPss : double(timer.nsecsElapsed()) / 1e6;
+    };
+    const double exported = exportPdfs(false);
+    const double peakPss = exportPdfs(true);
     QElapsedTimer hundred;
     hundred.start();
     for (int i = 1; i <= 100; ++i) {
@@ -220,6 +244,19 @@ int main(int argc, char** argv)
                .arg(exported, 0, 'f', 0)
                .arg(wk100, 0, 'f', 0)
                .arg(wk100 / exported, 0, 'f', 1);
+    QStringList pages;
+    for (int i = 1; i <= 100; ++i) {
+        pages << temporary.filePath(QStringLiteral("wk/%1.html").arg(i));
+    }
+    const int atOnce = batchRendererCount(pages.size());
+    const double floor =
+        runMs(self, QStringList{u"--engine-only"_qs, QString::number(atOnce)} + pages);
+    out << QStringLiteral(
+               "  the web engine alone, %1 pages at a time: %2 ms (%3 times faster than "
+               "wkhtmltopdf)\n")
+               .arg(atOnce)
+               .arg(floor, 0, 'f', 0)
+               .arg(wk100 / floor, 0, 'f', 1);
     out << QStringLiteral(
                "export-pdfs memory: %1 MiB at most (tamo and its helper processes, "
                "proportional set size; target under 500)\n")
