@@ -142,7 +142,12 @@ PdfRenderer::PdfRenderer(const QString& localFolder, QObject* parent)
 PdfRenderer::~PdfRenderer()
 {
     ++generation_;
-    page_.reset();  // before the profile it belongs to
+    // Pages before the profiles they belong to.
+    page_.reset();
+    for (Retired& r : retired_) {
+        r.page.reset();
+    }
+    retired_.clear();
     QFile::remove(spillFile_);
 }
 
@@ -191,18 +196,15 @@ void PdfRenderer::dropEngine()
     }
     // The engine cannot be told to stop printing. Pages of one profile share a renderer
     // process, which would finish the stopped work before the next page; a new profile gets a
-    // process of its own, and the old one ends with its last page.
-    // Deleted from the event loop, page before profile: deleting them while the engine is still
-    // printing into the page aborts the whole process now and then.
+    // process of its own.
+    // The stopped page and its profile are kept until this renderer goes: the engine tears a
+    // stopped page's process down in its own time, and deleting the profile before that aborts
+    // the whole process now and then. A stopped layout is rare; what is kept is small.
     if (page_) {
         page_->disconnect(this);
-        page_.release()->deleteLater();
     }
-    if (profile_) {
-        profile_.release()->deleteLater();
-    }
-    if (interceptor_) {
-        interceptor_.release()->deleteLater();
+    if (page_ || profile_) {
+        retired_.push_back({std::move(page_), std::move(profile_), std::move(interceptor_)});
     }
 }
 

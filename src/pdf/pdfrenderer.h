@@ -8,6 +8,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "platform/error.h"
 
@@ -111,6 +112,13 @@ private:
     std::unique_ptr<QWebEngineProfile> profile_;
     std::unique_ptr<QObject> interceptor_;
     std::unique_ptr<QWebEnginePage> page_;
+    // Stopped pages with their profiles, kept until this renderer goes.
+    struct Retired {
+        std::unique_ptr<QWebEnginePage> page;
+        std::unique_ptr<QWebEngineProfile> profile;
+        std::unique_ptr<QObject> interceptor;
+    };
+    std::vector<Retired> retired_;
     std::deque<Job> queue_;
     std::unique_ptr<Job> running_;
     QString spillFile_;  // the page is handed to the engine through this file
